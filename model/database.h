@@ -1,0 +1,182 @@
+#pragma once
+
+#include "base/cow_Btree.h"
+#include "base/cow_String.h"
+#include "base/mdl_MapString2ObjCow.h"
+#include "model/mesh.h"
+#include "model/records.h"
+#include "model/steps.h"
+
+/// A part: its mesh (shared by all its instances) and its raw solver text.
+class ddb_Part {
+public:
+  const cow_String& solverInput() const { return solverInput_; }
+  const ddb_Mesh& mesh() const { return mesh_; }
+
+  template <class V> void Fields(V& v) {
+    v("nodes", mesh_.nodes, ddb_NodeData());
+    v("elements", mesh_.elements.classes, cow_List<ddb_ElementClass>());
+    v("solverInput", solverInput_, cow_String());
+  }
+
+  ddb_Mesh mesh_;
+  cow_String solverInput_;
+};
+
+/// The parts of a model by name, in ascending byte order of the name.
+class ddb_PartContainer {
+public:
+  int size() const { return parts_.Size(); }
+  bool isMember(const cow_String& name) const { return parts_.IsMember(name); }
+  /// The part of that name; raises when there is none.
+  const ddb_Part& get(const cow_String& name) const;
+  cow_BtreeIterator<cow_String, ddb_Part> createIterator() const {
+    return cow_BtreeIterator<cow_String, ddb_Part>(parts_);
+  }
+  auto begin() const { return parts_.begin(); }
+  auto end() const { return parts_.end(); }
+
+  cow_Btree<cow_String, ddb_Part> parts_;
+};
+
+/// An instance in the root assembly.
+class ddb_BaseInstance {
+public:
+  virtual ~ddb_BaseInstance() = default;
+  virtual ddb_BaseInstance* Copy() const = 0;
+  virtual unsigned DynTypeId() const = 0;
+  virtual bool IsPartInstance() const { return false; }
+  /// Translation (three values) then rotation vector (three values, radians
+  /// about the axis through the origin); all zero for an instance in place.
+  const cow_List<float>& transform() const { return transform_; }
+
+  cow_List<float> transform_{0, 0, 0, 0, 0, 0};
+};
+
+/// An instance of a part: the part's mesh under a mesh index of its own.
+class ddb_PartInstance : public ddb_BaseInstance {
+public:
+  ddb_BaseInstance* Copy() const override { return new ddb_PartInstance(*this); }
+  static constexpr unsigned TypeId() { return keydeck::TypeIds::PartInstance; }
+  static bool IsKindOf(unsigned id) { return id == TypeId(); }
+  unsigned DynTypeId() const override { return TypeId(); }
+  bool IsPartInstance() const override { return true; }
+
+  const cow_String& name() const { return name_; }
+  const cow_String& partName() const { return partName_; }
+  const cow_String& solverInput() const { return solverInput_; }
+  const ddb_Mesh& mesh() const { return mesh_; }
+  const ddb_NodeData& nodeData() const { return mesh_.nodeData(); }
+  const ddb_ElementData& elementData() const { return mesh_.elementData(); }
+
+  template <class V> void Fields(V& v) {
+    v("part", partName_);
+    v("solverInput", solverInput_, cow_String());
+  }
+
+  cow_String partName_;
+  cow_String solverInput_;
+  // Derived after loading:
+  cow_String name_; ///< the instance's key in the assembly
+  ddb_Mesh mesh_;   ///< the part's mesh with this instance's mesh index
+};
+
+using ddb_InstanceContainer = mdl_MapString2ObjCow<ddb_BaseInstance>;
+
+/// The root assembly: its instances, its own mesh (connector wires) and its
+/// raw solver text.
+class ddb_Assembly {
+public:
+  const cow_String& name() const { return name_; }
+  const ddb_InstanceContainer& instance() const { return instances_; }
+  const cow_String& solverInput() const { return solverInput_; }
+  bool hasMesh() const { return hasMesh_; }
+  const ddb_Mesh& mesh() const { return mesh_; }
+
+  template <class V> void Fields(V& v) {
+    v("name", name_, cow_String("Assembly"));
+    v("instances", instances_, ddb_InstanceContainer());
+    v("solverInput", solverInput_, cow_String());
+  }
+
+  cow_String name_;
+  ddb_InstanceContainer instances_;
+  cow_String solverInput_;
+  bool hasMesh_ = false;
+  ddb_Mesh mesh_;
+};
+
+/// One model of the database. Its members are copy-on-write, so copying a
+/// model shares its data.
+class ddb_Model {
+public:
+  const ddb_PartContainer& part() const { return parts_; }
+  const ddb_Assembly& rootAssembly() const { return assembly_; }
+  const ddb_DdbStepContainer& step() const { return steps_; }
+  const cow_String& topLevelSolverInput() const { return topLevelSolverInput_; }
+  const cow_String& solverInput() const { return solverInput_; }
+  /// The mesh of that index: an instance's, or the assembly's own (index 0).
+  const ddb_Mesh& mesh(int index) const;
+
+  double absoluteZero() const { return absoluteZero_; }
+  double stefanBoltzmann() const { return stefanBoltzmann_; }
+  const cow_String& waveFormulation() const { return waveFormulation_; }
+  const cow_String& restartJob() const { return restartJob_; }
+  const cow_String& restartStep() const { return restartStep_; }
+  int restartIncrement() const { return restartIncrement_; }
+  bool endRestartStep() const { return endRestartStep_; }
+  const cow_String& globalJob() const { return globalJob_; }
+  bool shellToSolid() const { return shellToSolid_; }
+
+  template <class V> void Fields(V& v) {
+    v("parts", parts_.parts_, cow_Btree<cow_String, ddb_Part>());
+    v("assembly", assembly_, ddb_Assembly());
+    v("steps", steps_.steps, kprC_StepContainer());
+    v("topLevelSolverInput", topLevelSolverInput_, cow_String());
+    v("solverInput", solverInput_, cow_String());
+    v("absoluteZero", absoluteZero_, keydeck::NotGivenDouble);
+    v("stefanBoltzmann", stefanBoltzmann_, keydeck::NotGivenDouble);
+    v("waveFormulation", waveFormulation_, cow_String());
+    v("restartJob", restartJob_, cow_String());
+    v("restartStep", restartStep_, cow_String());
+    v("restartIncrement", restartIncrement_, keydeck::NotGivenInt);
+    v("endRestartStep", endRestartStep_, false);
+    v("globalJob", globalJob_, cow_String());
+    v("shellToSolid", shellToSolid_, false);
+  }
+
+  ddb_PartContainer parts_;
+  ddb_Assembly assembly_;
+  ddb_DdbStepContainer steps_;
+  cow_String topLevelSolverInput_;
+  cow_String solverInput_;
+  double absoluteZero_ = keydeck::NotGivenDouble;
+  double stefanBoltzmann_ = keydeck::NotGivenDouble;
+  cow_String waveFormulation_;
+  cow_String restartJob_;
+  cow_String restartStep_;
+  int restartIncrement_ = keydeck::NotGivenInt;
+  bool endRestartStep_ = false;
+  cow_String globalJob_;
+  bool shellToSolid_ = false;
+};
+
+/// The models of a database, by name.
+class ddb_Ddb {
+public:
+  /// The model of that name; raises when there is none.
+  const ddb_Model& model(const cow_String& name) const;
+
+  cow_Btree<cow_String, ddb_Model> models_;
+};
+
+/// An open model database.
+class odb_Odb {
+public:
+  odb_Odb() = default;
+  explicit odb_Odb(ddb_Ddb ddb) : ddb_(std::move(ddb)) {}
+  const ddb_Ddb& ddb() const { return ddb_; }
+
+private:
+  ddb_Ddb ddb_;
+};

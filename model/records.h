@@ -1,0 +1,38 @@
+#pragma once
+
+#include "base/nex_Exception.h"
+
+#include <limits>
+#include <source_location>
+
+namespace keydeck {
+
+/// The mark of a real that the model does not give: the greatest finite double.
+inline constexpr double NotGivenDouble = std::numeric_limits<double>::max();
+/// The mark of an integer that the model does not give.
+inline constexpr int NotGivenInt = 2147483647;
+
+/// Type ids of the model records, all in one place so that they stay unique.
+/// Where the deck branches on an id the number is the one the deck's own
+/// rules give; the others are ours.
+namespace TypeIds {
+inline constexpr unsigned InitialStep = 37486592;  // 0x23C0000
+inline constexpr unsigned AnalysisStep = 37486593; // 0x23C0001
+inline constexpr unsigned LoadCase = 37486800;
+inline constexpr unsigned PartInstance = 37490000;
+} // namespace TypeIds
+
+/// Narrows a record to `T` after checking its type id; a record of any
+/// other type raises the type-check failure with the caller's file and line.
+/// `T::IsKindOf(id)` says which ids `T` accepts (a family class accepts the
+/// ids of its members).
+template <class T, class Record>
+const T& RecordCast(const Record& record,
+                    std::source_location where = std::source_location::current()) {
+  if (!T::IsKindOf(record.DynTypeId()))
+    nex_canDynamicCastRef(T::TypeId(), record.DynTypeId(), where.file_name(),
+                          static_cast<int>(where.line()));
+  return static_cast<const T&>(record);
+}
+
+} // namespace keydeck

@@ -1,0 +1,121 @@
+#include "oif/oif_Builder.h"
+
+#include "base/qio_ostream.h"
+#include "base/utl_Stream.h"
+#include "oif/oif_ModelInfo.h"
+
+#include <chrono>
+#include <cstdio>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+double SecondsSince(Clock::time_point start) {
+  return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+} // namespace
+
+oif_Builder::oif_Builder(oif_ModelInfo& info)
+    : jobKeywords_(info), final_(info), v6Format_(info.V6Format()),
+      model_(&keydeck::FacadeOf(info.Model())) {}
+
+bool oif_Builder::WriteInputFile(const cow_String& fileName, keydeck::DeckPhaseTimes* times) {
+  std::remove(fileName.CStr());
+  std::FILE* const file = std::fopen(fileName.CStr(), "w");
+  if (file == nullptr)
+    return false;
+  qio_ofstreamDeck os;
+  os.attach(file, /*owns=*/true);
+  utl_Stream s(os, 131, 6, 6);
+
+  const Clock::time_point buildStart = Clock::now();
+  BuildAll();
+  const Clock::time_point writeStart = Clock::now();
+  WriteDeck(s, WritingList());
+  s.Close();
+  if (times != nullptr)
+    *times = {std::chrono::duration<double>(writeStart - buildStart).count(),
+              SecondsSince(writeStart)};
+  return true;
+}
+
+void oif_Builder::BuildAll() {
+  // The one hard rule of this order: the final builder runs last.
+  jobKeywords_.Build();
+  final_.Build();
+}
+
+oif_Builder::BuilderList oif_Builder::WritingList() const {
+  // The writing list fixes the order of cards inside every block of the deck.
+  BuilderList builders;
+  builders.Append(cow_ArrayCOW<qkw_BuilderComponent>(final_));
+  return builders;
+}
+
+void oif_Builder::WriteDeck(utl_Stream& s, const BuilderList& builders) const {
+  WriteInput(s, jobKeywords_.ModelDefinition());
+  WritePartDefinitions(s, builders);
+  WritePartInstanceDefinitions(s, builders);
+  WriteAssemblyDefinitions(s, builders);
+  WriteOtherModelDefinitions(s, builders);
+  WriteStepDefinitions(s, builders);
+}
+
+void oif_Builder::WriteHeading(utl_Stream& s, const cow_String& title) const {
+  s << "**" << endl << "** " << title << endl << "**" << endl;
+}
+
+void oif_Builder::WriteInput(utl_Stream& s, const KeywordList& cards) const {
+  for (const cow_ArrayCOW<qkw_Keyword>& card : cards)
+    card->Write(s);
+}
+
+void oif_Builder::WritePartDefinitions(utl_Stream& s, const BuilderList& builders) const {
+  if (v6Format_)
+    WriteHeading(s, "PARTS");
+  for (const auto& [partName, part] : model_->Parts())
+    for (const auto& builder : builders)
+      WriteInput(s, builder->PartDefinition(partName));
+}
+
+void oif_Builder::WritePartInstanceDefinitions(utl_Stream& s, const BuilderList& builders) const {
+  if (v6Format_) {
+    WriteHeading(s, "ASSEMBLY");
+    s << "*Assembly, name=" << model_->Model().rootAssembly().name() << endl;
+  }
+  for (const auto& [instanceName, instance] : model_->Instances())
+    for (const auto& builder : builders)
+      WriteInput(s, builder->InstanceDefinition(instanceName));
+}
+
+void oif_Builder::WriteAssemblyDefinitions(utl_Stream& s, const BuilderList& builders) const {
+  for (const auto& builder : builders)
+    WriteInput(s, builder->AssemblyDefinition());
+}
+
+void oif_Builder::WriteOtherModelDefinitions(utl_Stream& s, const BuilderList& builders) const {
+  for (const auto& builder : builders)
+    WriteInput(s, builder->ModelDefinition());
+}
+
+void oif_Builder::WriteStepDefinitions(utl_Stream& s, const BuilderList& builders) const {
+  const kprC_StepContainer& steps = model_->Steps();
+  kprC_StepContainerIT it(steps);
+  int count = 0;
+  for (it.First(); !it.IsDone(); it.Next(), ++count) {
+    const cow_String& stepName = it.CurrentKey();
+    for (const auto& builder : builders)
+      WriteInput(s, builder->StepDefinition(stepName, cow_String()));
+    if (count == 0) // the initial step has no load cases
+      continue;
+    const kprC_AnalysisStep& step = keydeck::RecordCast<kprC_AnalysisStep>(it.CurrentValue());
+    for (const cow_String& loadCaseName : step.loadCases.Keys()) {
+      if (loadCaseName.Empty())
+        continue;
+      for (const auto& builder : builders)
+        WriteInput(s, builder->StepDefinition(stepName, loadCaseName));
+    }
+  }
+}
