@@ -70,7 +70,7 @@ public:
   /// Grows with default items or shrinks to `count` items.
   void Resize(int count) { items_.Write().resize(static_cast<std::size_t>(std::max(count, 0))); }
   /// Makes the list `count` copies of `item`.
-  void Fill(int count, const T& item) {
+  void Fill(int count, T item) { // by value: the item may be one of the list's own
     items_.Write().assign(static_cast<std::size_t>(std::max(count, 0)), item);
   }
   /// The items from index `from` up to, not including, `to`; clamped to the list.
@@ -95,7 +95,11 @@ public:
   }
   void Clear() { items_ = keydeck::CowBox<std::vector<T>>(); }
   void SetFromArray(const T* items, int count) {
-    items_.Write().assign(items, items + std::max(count, 0));
+    if (count <= 0) {
+      Clear();
+      return;
+    }
+    items_.Write().assign(items, items + count);
   }
   /// The items as one contiguous array, valid until the list changes.
   const T* GetCArray() const { return Items().data(); }

@@ -127,7 +127,8 @@ int cow_String::Compare(const char* other) const {
 }
 
 int cow_String::Find(const char* text, int from) const {
-  if (from < 0 || from > Length())
+  from = std::max(from, 0);
+  if (from > Length())
     return -1;
   const std::size_t at = View().find(text, static_cast<std::size_t>(from));
   return at == std::string_view::npos ? -1 : static_cast<int>(at);

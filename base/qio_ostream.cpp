@@ -2,6 +2,7 @@
 
 #include "base/nex_Exception.h"
 
+#include <cassert>
 #include <cerrno>
 #include <cstring>
 #include <string>
@@ -24,6 +25,7 @@ void qio_ofstreamDeck::attach(std::FILE* file, bool owns) {
 }
 
 void qio_ofstreamDeck::Write(const char* data, std::size_t size) {
+  assert(file_ != nullptr && "a file is attached");
   if (size == 0)
     return;
   errno = 0;

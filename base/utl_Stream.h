@@ -18,7 +18,7 @@
 /// are a bare integer, so one is "1.", zero "0.", minus one "-1.". An exponent
 /// stays as `%g` writes it ("1e-10", "1.23457e+08"), since it marks a real
 /// already. Negative zero is written "0.". Infinities and NaN, which a loaded
-/// model never holds, come out as "inf", "-inf" and "nan". `operator<<`
+/// model never holds, come out as `%g` spells them ("inf", "-inf", "nan"). `operator<<`
 /// writes reals with the stream's default number of significant digits and
 /// no padding ("0.1", "1e+06"). A width pads on the left with blanks; a value
 /// wider than its width is written whole, never cut.
@@ -37,7 +37,9 @@
 /// back for the last line end.
 ///
 /// The buffer is passed on when full, at `Flush` and at `Close`, except the
-/// text from a mark that is still to be judged, which waits in the buffer.
+/// text from a mark that is still to be judged, which waits in the buffer (a
+/// single line longer than the buffer makes it grow). So the text does not
+/// depend on where the buffer happens to fill.
 /// A failing output surfaces as an exception from the call that passes the
 /// text on: any write that fills the buffer, `Flush` or `Close`.
 class utl_Stream {
@@ -50,8 +52,7 @@ public:
   /// uses the one layout there is, 6, plain decimal with no padding.
   /// `realLayout`: the significant digits of reals written by `operator<<`
   /// (the deck uses 6, as `%g` does); clamped to 1 to 17.
-  /// `bufferSize`: the size of the buffer, at least a few lines long (a
-  /// smaller size is raised to that).
+  /// `bufferSize`: the size of the buffer to begin with (at least 64 bytes).
   utl_Stream(qio_ostream& os, int lineLimit, int intLayout, int realLayout,
              std::size_t bufferSize = DefaultBufferSize);
   utl_Stream(const utl_Stream&) = delete;
@@ -112,11 +113,8 @@ private:
   // The text of a number is laid out in a scratch array of this size, which
   // is copied whole, so that no copy depends on the length of the number.
   static constexpr std::size_t NumberChars = 32;
-  // One spare byte past the end lets a full buffer take the line end that
-  // settles a mark just before it is passed on.
-  static constexpr std::size_t Spare = 1;
 
-  template <class Real> void PrintReal(Real value, int width, int precision);
+  void PrintReal(double value, int width, int precision);
   void PutPadded(const char (&text)[NumberChars], std::size_t length, int width);
 
   /// Makes room for `size` bytes; one compare unless the buffer is full.
@@ -139,7 +137,7 @@ private:
 
   qio_ostream& os_;
   std::unique_ptr<char[]> buffer_;
-  std::size_t capacity_; // usable bytes; `Spare` more are allocated
+  std::size_t capacity_;
   char* pos_;            // end of the buffered text
   char* end_;            // `buffer_` + `capacity_`
   char* mark_ = nullptr; // the mark still to be judged, or null

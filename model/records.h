@@ -4,6 +4,7 @@
 
 #include <limits>
 #include <source_location>
+#include <string_view>
 
 namespace keydeck {
 
@@ -21,6 +22,45 @@ inline constexpr unsigned AnalysisStep = 37486593; // 0x23C0001
 inline constexpr unsigned LoadCase = 37486800;
 inline constexpr unsigned PartInstance = 37490000;
 } // namespace TypeIds
+
+/// One enumerator of a model enumeration: its value, its text in the deck and
+/// its word in the model file.
+template <class E> struct EnumEntry {
+  E value;
+  std::string_view deckText;
+  std::string_view fileText;
+};
+
+/// The table of an enumeration, specialised beside the enumeration with
+///
+///     static constexpr std::string_view Noun = "procedure"; // names it in messages
+///     static constexpr EnumEntry<E> Entries[] = {{value, deckText, fileText}, ...};
+///
+/// Every enumerator has one entry; the file words are unique lowerCamel words.
+template <class E> struct EnumTable;
+
+/// An enumeration that has a table.
+template <class E>
+concept TabledEnum = requires {
+  EnumTable<E>::Noun;
+  EnumTable<E>::Entries;
+};
+
+/// The entry of `value`, or null for a value outside the table.
+template <TabledEnum E> constexpr const EnumEntry<E>* FindEnumEntry(E value) {
+  for (const EnumEntry<E>& entry : EnumTable<E>::Entries)
+    if (entry.value == value)
+      return &entry;
+  return nullptr;
+}
+
+/// The entry whose file word is `word`, or null.
+template <TabledEnum E> constexpr const EnumEntry<E>* FindEnumEntryByFileText(std::string_view word) {
+  for (const EnumEntry<E>& entry : EnumTable<E>::Entries)
+    if (entry.fileText == word)
+      return &entry;
+  return nullptr;
+}
 
 /// Narrows a record to `T` after checking its type id; a record of any
 /// other type raises the type-check failure with the caller's file and line.

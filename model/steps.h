@@ -43,12 +43,48 @@ enum kprC_ProcedureEnm : unsigned {
   kprC_SteadyStateSubspace = 37486693 + 25,
 };
 
+namespace keydeck {
+
+// The deck texts of the procedures are filled in with the step cards.
+template <> struct EnumTable<kprC_ProcedureEnm> {
+  static constexpr std::string_view Noun = "procedure";
+  static constexpr EnumEntry<kprC_ProcedureEnm> Entries[] = {
+      {kprC_Anneal, "", "anneal"},
+      {kprC_Buckle, "", "buckle"},
+      {kprC_CoupledTempDisplacement, "", "coupledTempDisplacement"},
+      {kprC_CoupledThermalElectric, "", "coupledThermalElectric"},
+      {kprC_ExplicitDynamics, "", "explicitDynamics"},
+      {kprC_Frequency, "", "frequency"},
+      {kprC_Geostatic, "", "geostatic"},
+      {kprC_HeatTransfer, "", "heatTransfer"},
+      {kprC_ImplicitDynamics, "", "implicitDynamics"},
+      {kprC_MassDiffusion, "", "massDiffusion"},
+      {kprC_ModalDynamics, "", "modalDynamics"},
+      {kprC_RandomResponse, "", "randomResponse"},
+      {kprC_ResponseSpectrum, "", "responseSpectrum"},
+      {kprC_Soils, "", "soils"},
+      {kprC_Static, "", "static"},
+      {kprC_StaticRiks, "", "staticRiks"},
+      {kprC_StaticLinearPerturbation, "", "staticLinearPerturbation"},
+      {kprC_SteadyStateDirect, "", "steadyStateDirect"},
+      {kprC_SteadyStateModal, "", "steadyStateModal"},
+      {kprC_SubspaceDynamics, "", "subspaceDynamics"},
+      {kprC_Visco, "", "visco"},
+      {kprC_TempDisplacementDynamics, "", "tempDisplacementDynamics"},
+      {kprC_ComplexFrequency, "", "complexFrequency"},
+      {kprC_SteadyStateSubspace, "", "steadyStateSubspace"},
+  };
+};
+
+} // namespace keydeck
+
 /// A load case of an analysis step; its name is its key in the step.
 class klcC_LoadCase {
 public:
   virtual ~klcC_LoadCase() = default;
   virtual klcC_LoadCase* Copy() const { return new klcC_LoadCase(*this); }
   static constexpr unsigned TypeId() { return keydeck::TypeIds::LoadCase; }
+  static bool IsKindOf(unsigned id) { return id == TypeId(); }
   virtual unsigned DynTypeId() const { return TypeId(); }
 
   template <class V> void Fields(V&) {}

@@ -170,8 +170,8 @@ TEST(MdlMapString2ObjCow, NamesInAscendingByteOrder) {
   int value = 0;
   for (const char* name : names)
     repository.Insert(name, Record(value++));
-  const std::vector<std::string> sorted = {"B", "Steel-10", "Steel-2", "Z", "a", "aa", "z",
-                                           "\xc3\xa9"};
+  const std::vector<std::string> sorted = {"B", "Steel-10", "Steel-2", "Z",
+                                           "a", "aa",       "z",       "\xc3\xa9"};
   EXPECT_EQ(repository.Size(), 8);
   EXPECT_EQ(Strings(repository.Keys()), sorted);
 
@@ -235,7 +235,7 @@ TEST(MdlMapString2ObjCow, CopyChangesIndependentlyOfItsSource) {
 TEST(CowIntTable, NegativeZeroAndPositiveKeysAreDistinct) {
   cow_IntTable<cow_String> table;
   const std::pair<int, const char*> entries[] = {
-      {5, "five"}, {-5, "minus five"}, {0, "zero"}, {-1, "minus one"},
+      {5, "five"}, {-5, "minus five"}, {0, "zero"},     {-1, "minus one"},
       {1, "one"},  {INT_MIN, "min"},   {INT_MAX, "max"}};
   for (const auto& [key, text] : entries)
     EXPECT_TRUE(table.Insert(key, text)) << key;

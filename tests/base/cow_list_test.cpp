@@ -97,8 +97,10 @@ TEST(CowList, SliceClampsToTheList) {
     std::vector<int> items;
   };
   const Case cases[] = {
-      {1, 4, {1, 2, 3}}, {0, 6, {0, 1, 2, 3, 4, 5}}, {-3, 2, {0, 1}}, {4, 100, {4, 5}},
-      {3, 3, {}},        {4, 2, {}},                 {6, 8, {}},      {-5, -1, {}},
+      {1, 4, {1, 2, 3}}, {0, 6, {0, 1, 2, 3, 4, 5}},
+      {-3, 2, {0, 1}},   {4, 100, {4, 5}},
+      {3, 3, {}},        {4, 2, {}},
+      {6, 8, {}},        {-5, -1, {}},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(std::to_string(c.from) + ".." + std::to_string(c.to));

@@ -71,8 +71,8 @@ TEST(CowString, SubstrAndEraseClampToTheString) {
     const char* erased;
   };
   const Case cases[] = {
-      {2, 3, "cde", "abf"}, {0, 6, "abcdef", ""}, {4, 10, "ef", "abcd"}, {5, 1, "f", "abcde"},
-      {6, 1, "", "abcdef"}, {10, 2, "", "abcdef"}, {1, 0, "", "abcdef"}, {1, -3, "", "abcdef"},
+      {2, 3, "cde", "abf"}, {0, 6, "abcdef", ""},  {4, 10, "ef", "abcd"}, {5, 1, "f", "abcde"},
+      {6, 1, "", "abcdef"}, {10, 2, "", "abcdef"}, {1, 0, "", "abcdef"},  {1, -3, "", "abcdef"},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(std::to_string(c.pos) + ", " + std::to_string(c.length));

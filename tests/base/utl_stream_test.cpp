@@ -3,11 +3,15 @@
 
 #include <gtest/gtest.h>
 
+#include <bit>
 #include <climits>
+#include <cmath>
+#include <cstdint>
 #include <cstdio>
 #include <cstring>
 #include <random>
 #include <string>
+#include <string_view>
 
 namespace {
 
@@ -100,20 +104,34 @@ TEST(StreamNumbers, FloatCoordinates) {
   EXPECT_EQ(DeckOf([](utl_Stream& s) { s << 1.f / 3 << "," << 2.f; }), "0.333333,2.");
 }
 
-// The stream's digits are printf's: compare over many values of all sizes.
+// The stream's digits are printf's: compare over values of all sizes, over
+// floats of random bits, and over ties and near ties of the rounding.
 TEST(StreamNumbers, RealsMatchPrintf) {
-  std::mt19937_64 random(12345);
-  std::uniform_real_distribution<double> mantissa(-10, 10);
-  std::uniform_int_distribution<int> exponent(-320, 308);
-  for (int i = 0; i < 20000; ++i) {
-    const double value = std::ldexp(mantissa(random), exponent(random) / 3 * (i % 2 ? 1 : 3));
-    const int precision = 1 + i % 17;
+  const auto expectPrintf = [](double value, int precision) {
     ASSERT_EQ(DeckOf([&](utl_Stream& s) { s.Print(value, 12, precision); }),
               PrintfReal(value, 12, precision))
-        << value;
-    const float single = static_cast<float>(mantissa(random) * std::pow(10.0, i % 20 - 10));
-    ASSERT_EQ(DeckOf([&](utl_Stream& s) { s.Print(single, 12, 7); }), PrintfReal(single, 12, 7))
-        << single;
+        << value << " to " << precision << " digits";
+  };
+  const double ties[] = {0.5,      2.5,     1.25,     0.125,     0.15,      9.5,    0.95,
+                         9.999995, 9999995, 99999.95, 123456.5,  1234567.5, 1e-5,   0.0001234,
+                         5e-324,   1e22,    1e23,     0.1 + 0.2, 4.35,      8.5e-5, 1e15 + 0.5};
+  for (const double value : ties)
+    for (int precision = 1; precision <= 17; ++precision) {
+      expectPrintf(value, precision);
+      expectPrintf(-value, precision);
+    }
+  std::mt19937_64 random(12345);
+  std::uniform_real_distribution<double> mantissa(-10, 10);
+  std::uniform_int_distribution<int> exponent(-1070, 1020);
+  std::uniform_int_distribution<std::uint32_t> bits;
+  for (int i = 0; i < 30000; ++i) {
+    expectPrintf(std::ldexp(mantissa(random), i % 2 ? exponent(random) : exponent(random) / 20),
+                 1 + i % 17);
+    const float single = std::bit_cast<float>(bits(random));
+    if (std::isfinite(single)) {
+      ASSERT_EQ(DeckOf([&](utl_Stream& s) { s.Print(single, 12, 7); }), PrintfReal(single, 12, 7))
+          << single;
+    }
   }
 }
 
@@ -173,61 +191,39 @@ TEST(StreamLines, LineEndsAndChaining) {
 }
 
 TEST(StreamLines, OptionalBreaksKeepLinesWithinLimit) {
-  const auto parameters = [](utl_Stream& s) {
-    s << "*Part, ";
-    s.OptionalLineBreak();
-    s << "name=Alpha, ";
-    s.OptionalLineBreak();
-    s << "color=blue, ";
-    s.OptionalLineBreak();
-    s << "size=12, ";
-    s.OptionalLineBreak();
-    s << "kind=solid" << endl;
-  };
-  const std::pair<int, const char*> cases[] = {
-      {131, "*Part, name=Alpha, color=blue, size=12, kind=solid\n"},
-      {50, "*Part, name=Alpha, color=blue, size=12, kind=solid\n"},
-      {49, "*Part, name=Alpha, color=blue, size=12,\nkind=solid\n"},
-      {24, "*Part, name=Alpha,\ncolor=blue, size=12,\nkind=solid\n"},
-      {18, "*Part, name=Alpha,\ncolor=blue,\nsize=12,\nkind=solid\n"},
-      {17, "*Part,\nname=Alpha,\ncolor=blue,\nsize=12,\nkind=solid\n"}};
-  for (const auto& [limit, deck] : cases) {
-    SCOPED_TRACE(limit);
-    EXPECT_EQ(DeckOf(parameters, limit), deck);
+  const char* const part = "*Part, |name=Alpha, |color=blue, |size=12, |kind=solid";
+  const struct {
+    int limit;
+    const char* marked; // '|' stands for OptionalLineBreak
+    const char* deck;
+  } cases[] = {{131, part, "*Part, name=Alpha, color=blue, size=12, kind=solid\n"},
+               {50, part, "*Part, name=Alpha, color=blue, size=12, kind=solid\n"},
+               {49, part, "*Part, name=Alpha, color=blue, size=12,\nkind=solid\n"},
+               {24, part, "*Part, name=Alpha,\ncolor=blue, size=12,\nkind=solid\n"},
+               {18, part, "*Part, name=Alpha,\ncolor=blue,\nsize=12,\nkind=solid\n"},
+               {17, part, "*Part,\nname=Alpha,\ncolor=blue,\nsize=12,\nkind=solid\n"},
+               // A stretch longer than the limit stands alone on its line.
+               {12, "*K, |name=AVeryLongNameIndeed, |x=1", "*K,\nname=AVeryLongNameIndeed,\nx=1\n"},
+               // Without a blank after the comma the line end is inserted.
+               {8, "*K,|name=Alpha", "*K,\nname=Alpha\n"},
+               // A mark left behind by a literal line end does not break the next line.
+               {8, "*K, |a=1\n1, 2, 3, 4, 5, 6, 7", "*K, a=1\n1, 2, 3, 4, 5, 6, 7\n"}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.marked);
+    SCOPED_TRACE(c.limit);
+    const std::string deck = DeckOf(
+        [&](utl_Stream& s) {
+          const std::string_view marked = c.marked;
+          std::size_t start = 0;
+          for (std::size_t bar; (bar = marked.find('|', start)) != marked.npos; start = bar + 1) {
+            s << cow_String(marked.substr(start, bar - start));
+            s.OptionalLineBreak();
+          }
+          s << cow_String(marked.substr(start)) << endl;
+        },
+        c.limit);
+    EXPECT_EQ(deck, c.deck);
   }
-}
-
-TEST(StreamLines, OptionalBreakEdges) {
-  // A stretch longer than the limit stands alone on its line.
-  EXPECT_EQ(DeckOf(
-                [](utl_Stream& s) {
-                  s << "*K, ";
-                  s.OptionalLineBreak();
-                  s << "name=AVeryLongNameIndeed, ";
-                  s.OptionalLineBreak();
-                  s << "x=1" << endl;
-                },
-                12),
-            "*K,\nname=AVeryLongNameIndeed,\nx=1\n");
-  // Without a blank after the comma the line end is inserted.
-  EXPECT_EQ(DeckOf(
-                [](utl_Stream& s) {
-                  s << "*K,";
-                  s.OptionalLineBreak();
-                  s << "name=Alpha" << endl;
-                },
-                8),
-            "*K,\nname=Alpha\n");
-  // A mark left behind by a literal line end does not break the next line.
-  EXPECT_EQ(DeckOf(
-                [](utl_Stream& s) {
-                  s << "*K, ";
-                  s.OptionalLineBreak();
-                  s << "a=1\n"
-                    << "1, 2, 3, 4, 5, 6, 7" << endl;
-                },
-                8),
-            "*K, a=1\n1, 2, 3, 4, 5, 6, 7\n");
 }
 
 // At the deck's limit each broken line ends in "," and could not have taken
@@ -257,7 +253,8 @@ TEST(StreamLines, LongKeywordLineAtDeckLimit) {
 }
 
 // The text does not depend on where the buffer is passed on: small buffers
-// split keyword lines, marks and long stretches at every offset.
+// split keyword lines, marks and stretches longer than the buffer at every
+// offset.
 TEST(StreamBuffer, TextIndependentOfBufferSize) {
   const auto sample = [](utl_Stream& s) {
     for (int block = 0; block < 3; ++block) {
@@ -272,11 +269,14 @@ TEST(StreamBuffer, TextIndependentOfBufferSize) {
       s << std::string(600, 'A').c_str() << ", ";
       s.OptionalLineBreak();
       s << std::string(150 + block * 77, 'B').c_str() << endl;
+      s << "*Raw, "; // a mark that a literal line end leaves behind
+      s.OptionalLineBreak();
+      s << std::string(200 + block * 90, 'C').c_str() << "\n";
     }
   };
   const std::string reference = DeckOf(sample, 131);
-  ASSERT_GT(reference.size(), 10u * 700); // many times the largest buffer below
-  for (std::size_t size = 518; size < 700; ++size)
+  ASSERT_GT(reference.size(), 20u * 400); // many times the largest buffer below
+  for (std::size_t size = 64; size < 400; ++size)
     ASSERT_EQ(DeckOf(sample, 131, size), reference) << "buffer of " << size;
 }
 

@@ -2,7 +2,17 @@
 
 #include "base/qio_ostream.h"
 #include "base/utl_Stream.h"
+#include "model/database.h"
+#include "oif/oif_Builder.h"
+#include "oif/oif_ModelInfo.h"
 #include "qkw/qkw_Keyword.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
 
 namespace keydeck::test {
 
@@ -14,6 +24,43 @@ std::string DeckText(const qkw_Keyword& card) {
     s.Close();
   }
   return text.Text();
+}
+
+std::string DeckOfModel(const odb_Odb& odb, const char* modelName) {
+  const std::filesystem::path path =
+      std::filesystem::temp_directory_path() /
+      ("keydeck-test-" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) + "-" +
+       ::testing::UnitTest::GetInstance()->current_test_info()->name() + ".inp");
+  oif_ModelInfo info(odb.ddb().model(modelName));
+  oif_Builder builder(info);
+  EXPECT_TRUE(builder.WriteInputFile(cow_String(path.c_str())));
+  std::string text = ReadFile(path.string());
+  std::filesystem::remove(path);
+  return text;
+}
+
+std::string ReadFile(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  std::ostringstream text;
+  text << file.rdbuf();
+  return text.str();
+}
+
+std::string FirstDifference(const std::string& expected, const std::string& actual) {
+  std::istringstream want(expected);
+  std::istringstream got(actual);
+  std::string wantLine;
+  std::string gotLine;
+  for (int line = 1;; ++line) {
+    const bool moreWanted = static_cast<bool>(std::getline(want, wantLine));
+    const bool moreGot = static_cast<bool>(std::getline(got, gotLine));
+    if (!moreWanted && !moreGot)
+      return expected == actual ? "" : "the texts differ in their final line end";
+    if (!moreWanted || !moreGot || wantLine != gotLine)
+      return "line " + std::to_string(line) + ": expected \"" +
+             (moreWanted ? wantLine : "<end of deck>") + "\", got \"" +
+             (moreGot ? gotLine : "<end of deck>") + "\"";
+  }
 }
 
 } // namespace keydeck::test

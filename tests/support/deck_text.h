@@ -3,10 +3,21 @@
 #include <string>
 
 class qkw_Keyword;
+class odb_Odb;
 
 namespace keydeck::test {
 
 /// The text that one card writes to a fresh deck stream.
 std::string DeckText(const qkw_Keyword& card);
+
+/// The whole deck of a model of the database, written through the writer
+/// into a temporary file and read back.
+std::string DeckOfModel(const odb_Odb& odb, const char* modelName = "Default Model");
+
+/// The bytes of a file; empty when it cannot be read.
+std::string ReadFile(const std::string& path);
+
+/// The first line where two texts differ, as "line N: expected ... / got ...".
+std::string FirstDifference(const std::string& expected, const std::string& actual);
 
 } // namespace keydeck::test

@@ -1,0 +1,92 @@
+#pragma once
+
+#include "base/cow_Btree.h"
+#include "base/cow_String.h"
+#include "model/database.h"
+#include "model/records.h"
+#include "model/steps.h"
+
+#include <string_view>
+#include <type_traits>
+
+// What the loader, the schema generator and the dumper share: the records that
+// exist only in the file (its top level, a step with its name) and the traits
+// that tell the three walkers how to treat a member.
+
+namespace keydeck {
+
+/// A visitor that accepts every field; it only serves to ask whether a class
+/// declares fields.
+struct AnyFieldVisitor {
+  template <class M> void operator()(const char*, M&) {}
+  template <class M, class D> void operator()(const char*, M&, const D&) {}
+};
+
+/// A record: a class that lists its fields in `Fields(V&)`.
+template <class R>
+concept FieldRecord = requires(R& record, AnyFieldVisitor& visitor) { record.Fields(visitor); };
+
+/// The class to build for an entry of a map of polymorphic records of base
+/// `Base`. Every entry of a map is of that one class so far; a map whose
+/// entries differ will read a "type" word here.
+template <class Base> struct MapEntryClass;
+template <> struct MapEntryClass<ddb_BaseInstance> {
+  using Type = ddb_PartInstance;
+};
+template <> struct MapEntryClass<klcC_LoadCase> {
+  using Type = klcC_LoadCase;
+};
+
+/// A step as the file gives it: its name, then the step's own fields. The
+/// model keeps the name as the step's key.
+template <class Step> struct NamedStep {
+  cow_String name;
+  Step step;
+
+  template <class V> void Fields(V& v) {
+    v("name", name);
+    step.Fields(v);
+  }
+};
+
+/// The word that opens every model file.
+enum class FileFormat { KeydeckModel };
+
+template <> struct EnumTable<FileFormat> {
+  static constexpr std::string_view Noun = "format";
+  static constexpr EnumEntry<FileFormat> Entries[] = {
+      {FileFormat::KeydeckModel, "", "keydeck-model"}};
+};
+
+/// The version number of the file format; this program reads and writes
+/// `Supported` only.
+struct FileVersion {
+  static constexpr int Supported = 1;
+  int number = Supported;
+};
+
+/// The top level of a model file.
+struct ModelFile {
+  FileFormat format = FileFormat::KeydeckModel;
+  FileVersion version;
+  cow_Btree<cow_String, ddb_Model> models;
+
+  template <class V> void Fields(V& v) {
+    v("format", format);
+    v("version", version);
+    v("models", models);
+  }
+};
+
+/// True for a value that stands for "not given": such a default is not
+/// printed, since the file says it by leaving the field out.
+template <class M> constexpr bool IsNotGivenMark(const M& value) {
+  if constexpr (std::is_same_v<M, double>)
+    return value == NotGivenDouble;
+  else if constexpr (std::is_same_v<M, int>)
+    return value == NotGivenInt;
+  else
+    return false;
+}
+
+} // namespace keydeck
