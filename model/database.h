@@ -48,9 +48,9 @@ public:
   virtual bool IsPartInstance() const { return false; }
   /// Translation (three values) then rotation vector (three values, radians
   /// about the axis through the origin); all zero for an instance in place.
-  const cow_List<float>& transform() const { return transform_; }
+  const cow_List<double>& transform() const { return transform_; }
 
-  cow_List<float> transform_{0, 0, 0, 0, 0, 0};
+  cow_List<double> transform_{0, 0, 0, 0, 0, 0};
 };
 
 /// An instance of a part: the part's mesh under a mesh index of its own.
@@ -68,6 +68,7 @@ public:
   const ddb_Mesh& mesh() const { return mesh_; }
   const ddb_NodeData& nodeData() const { return mesh_.nodeData(); }
   const ddb_ElementData& elementData() const { return mesh_.elementData(); }
+  const ddb_SetList& set() const { return mesh_.set(); }
 
   template <class V> void Fields(V& v) {
     v("part", partName_);
@@ -91,7 +92,9 @@ public:
   const ddb_InstanceContainer& instance() const { return instances_; }
   const cow_String& solverInput() const { return solverInput_; }
   bool hasMesh() const { return hasMesh_; }
+  /// The assembly's own mesh, index 0; empty when `hasMesh()` is false.
   const ddb_Mesh& mesh() const { return mesh_; }
+  const ddb_SetList& set() const { return sets_; }
 
   template <class V> void Fields(V& v) {
     v("name", name_, cow_String("Assembly"));
@@ -104,6 +107,7 @@ public:
   cow_String solverInput_;
   bool hasMesh_ = false;
   ddb_Mesh mesh_;
+  ddb_SetList sets_;
 };
 
 /// One model of the database. Its members are copy-on-write, so copying a

@@ -3,6 +3,8 @@
 #include "base/cow_2DArray.h"
 #include "base/cow_List.h"
 #include "base/cow_String.h"
+#include "model/element_types.h"
+#include "model/regions.h"
 
 #include <array>
 
@@ -26,6 +28,32 @@ public:
 
   cow_List<int> labels;
   uti_CoordCont3D coordinates;
+  // Derived after loading, in the assembly's mesh only: nodes of instances
+  // that the assembly's elements use. They follow the mesh's own nodes in
+  // the node indices: index NumNodes() + k is the k-th of them.
+  cow_List<int> scopedLabels;
+  cow_List<cow_String> scopedInstances;
+};
+
+/// The nodes of a mesh together with the instance nodes that its elements
+/// reach: the view of the assembly's mesh that connector lines need.
+class ddb_ScopedNodeData {
+public:
+  explicit ddb_ScopedNodeData(const ddb_NodeData& nodes) : nodes_(nodes) {}
+  /// True for a node of the mesh itself, false for a node of an instance.
+  bool isNativeNode(int index) const { return index < nodes_.NumNodes(); }
+  /// The instance of a node that is not native.
+  const cow_String& getPartInstance(int index) const {
+    return nodes_.scopedInstances.ConstGet(index - nodes_.NumNodes());
+  }
+  int GetUserNodeLabel(unsigned index) const {
+    const int i = static_cast<int>(index);
+    return isNativeNode(i) ? nodes_.labels.ConstGet(i)
+                           : nodes_.scopedLabels.ConstGet(i - nodes_.NumNodes());
+  }
+
+private:
+  const ddb_NodeData& nodes_;
 };
 
 /// The elements of one type in a mesh: user labels and connectivity.
@@ -40,6 +68,7 @@ public:
   /// numNodesPerElement() each.
   const cow_List<int>& elementConnectivity() const { return nodeIndices; }
   const cow_List<int>& userElementLabelsAsFlatArray() const { return labels; }
+  shp_Shape shape() const { return keydeck::ShapeOfElementType(type); }
 
   template <class V> void Fields(V& v) {
     v("type", type);
@@ -75,8 +104,10 @@ public:
   int meshIndex() const { return index; }
   const ddb_NodeData& nodeData() const { return nodes; }
   const ddb_ElementData& elementData() const { return elements; }
+  const ddb_SetList& set() const { return sets; }
 
   int index = 0;
   ddb_NodeData nodes;       // cow lists inside: a copy shares them
   ddb_ElementData elements;
+  ddb_SetList sets;
 };

@@ -55,7 +55,8 @@ template <TabledEnum E> constexpr const EnumEntry<E>* FindEnumEntry(E value) {
 }
 
 /// The entry whose file word is `word`, or null.
-template <TabledEnum E> constexpr const EnumEntry<E>* FindEnumEntryByFileText(std::string_view word) {
+template <TabledEnum E>
+constexpr const EnumEntry<E>* FindEnumEntryByFileText(std::string_view word) {
   for (const EnumEntry<E>& entry : EnumTable<E>::Entries)
     if (entry.fileText == word)
       return &entry;

@@ -6,6 +6,7 @@
 
 #include <chrono>
 #include <cstdio>
+#include <initializer_list>
 
 namespace {
 
@@ -18,7 +19,7 @@ double SecondsSince(Clock::time_point start) {
 } // namespace
 
 oif_Builder::oif_Builder(oif_ModelInfo& info)
-    : jobKeywords_(info), final_(info), v6Format_(info.V6Format()),
+    : jobKeywords_(info), instance_(info), part_(info), region_(info), final_(info), v6Format_(info.V6Format()),
       model_(&keydeck::FacadeOf(info.Model())) {}
 
 bool oif_Builder::WriteInputFile(const cow_String& fileName, keydeck::DeckPhaseTimes* times) {
@@ -44,13 +45,18 @@ bool oif_Builder::WriteInputFile(const cow_String& fileName, keydeck::DeckPhaseT
 void oif_Builder::BuildAll() {
   // The one hard rule of this order: the final builder runs last.
   jobKeywords_.Build();
+  part_.Build();
+  instance_.Build();
+  region_.Build();
   final_.Build();
 }
 
 oif_Builder::BuilderList oif_Builder::WritingList() const {
   // The writing list fixes the order of cards inside every block of the deck.
   BuilderList builders;
-  builders.Append(cow_ArrayCOW<qkw_BuilderComponent>(final_));
+  for (const qkw_BuilderComponent* builder :
+       std::initializer_list<const qkw_BuilderComponent*>{&part_, &instance_, &region_, &final_})
+    builders.Append(cow_ArrayCOW<qkw_BuilderComponent>(*builder));
   return builders;
 }
 

@@ -4,7 +4,10 @@
 #include "base/cow_List.h"
 #include "base/cow_String.h"
 #include "oif/oif_FinalBuilder.h"
+#include "oif/oif_InstanceBuilder.h"
 #include "oif/oif_JobKeywordsBuilder.h"
+#include "oif/oif_PartBuilder.h"
+#include "oif/oif_RegionBuilder.h"
 #include "qkw/qkw_BuilderComponent.h"
 
 class oif_Model;
@@ -53,6 +56,9 @@ private:
 
   // Construction order; the build order and the writing order differ from it.
   oif_JobKeywordsBuilder jobKeywords_;
+  oif_InstanceBuilder instance_;
+  oif_PartBuilder part_;
+  oif_RegionBuilder region_;
   oif_FinalBuilder final_;
   bool v6Format_;
   const oif_Model* model_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/cow_String.h"
 #include "base/mdl_PropAttr.h"
 
 /// State queries that the cards of step-dependent conditions share.
@@ -16,4 +17,6 @@ public:
   /// as it was.
   static void SetDeactivateOpFlags(const mdl_PropagationStatusEnm& status, bool& deactivated,
                                    bool& modifiedOnly);
+  /// The name of a connector's set, quoted as needed.
+  static cow_String GetConnectorSetName(cow_String name);
 };

@@ -42,7 +42,7 @@ private:
 
   bool dense_ = true;
   std::int64_t lowest_ = 0;
-  std::vector<int> slots_; // positions; -1 for none
+  std::vector<int> slots_;  // positions; -1 for none
   std::vector<int> labels_; // hash table only: the label in each slot
   std::size_t mask_ = 0;
   int shift_ = 64;
@@ -82,6 +82,10 @@ int LabelIndex::Insert(int label, int position) {
     if (labels_[at] == label)
       return slots_[at];
   }
+}
+
+std::string Count(int count, std::string_view thing) {
+  return std::to_string(count) + " " + std::string(thing) + (count == 1 ? "" : "s");
 }
 
 void WidenRange(const cow_List<int>& labels, int& lowest, int& highest) {
@@ -124,8 +128,7 @@ private:
     const int labels = mesh_.nodes.labels.Size();
     const int coordinates = mesh_.nodes.coordinates.Size();
     if (labels != coordinates)
-      Error("nodes", std::to_string(labels) + " node labels but " + std::to_string(coordinates) +
-                         " coordinate rows");
+      Error("nodes", Count(labels, "node label") + " but " + Count(coordinates, "coordinate row"));
   }
 
   void IndexNodes() {
@@ -138,9 +141,8 @@ private:
       const int label = labels.UncheckedConstGet(i);
       const int first = nodes_.Insert(label, i);
       if (first >= 0) [[unlikely]]
-        Error("nodes/labels/" + std::to_string(i), "duplicate node label " +
-                                                       std::to_string(label) + ", also at index " +
-                                                       std::to_string(first));
+        Error("nodes/labels/" + std::to_string(i), "duplicate node label " + std::to_string(label) +
+                                                       ", also at index " + std::to_string(first));
     }
   }
 
@@ -177,9 +179,8 @@ private:
     const int rows = connectivity.Rows();
     const int cols = connectivity.Cols();
     if (elementClass.labels.Size() != rows)
-      Error("elements/" + std::to_string(k),
-            std::to_string(elementClass.labels.Size()) + " element labels but " +
-                std::to_string(rows) + " connectivity rows");
+      Error("elements/" + std::to_string(k), Count(elementClass.labels.Size(), "element label") +
+                                                 " but " + Count(rows, "connectivity row"));
     const std::size_t count = static_cast<std::size_t>(rows) * static_cast<std::size_t>(cols);
     cow_List<int> indices = cow_List<int>::WithCapacity(static_cast<int>(count));
     const int* const labels = count == 0 ? nullptr : &connectivity.ConstGet(0, 0);
@@ -214,11 +215,12 @@ void DeriveInstances(std::string_view modelPath, ddb_Model& model, LoadErrors& e
     ddb_PartInstance instance = RecordCast<ddb_PartInstance>(instances.ConstGet(name));
     instance.name_ = name;
     instance.mesh_ = ddb_Mesh();
+    const std::string path =
+        std::string(modelPath) + "/assembly/instances/" + std::string(name.View());
     if (model.parts_.isMember(instance.partName_))
       instance.mesh_ = model.parts_.get(instance.partName_).mesh_;
-    else
-      errors.Add(std::string(modelPath) + "/assembly/instances/" + std::string(name.View()) +
-                     "/part",
+    else if (!errors.AnyAtOrUnder(path))
+      errors.Add(path + "/part",
                  "no part " + QuotedJson(instance.partName_.View()) + " in the model");
     instance.mesh_.index = ++meshIndex;
     instances.Insert(name, instance);

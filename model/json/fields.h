@@ -24,18 +24,16 @@ struct AnyFieldVisitor {
 
 /// A record: a class that lists its fields in `Fields(V&)`.
 template <class R>
-concept FieldRecord = requires(R& record, AnyFieldVisitor& visitor) { record.Fields(visitor); };
+concept FieldRecord = requires(R& record, AnyFieldVisitor& visitor) {
+  record.Fields(visitor);
+};
 
 /// The class to build for an entry of a map of polymorphic records of base
 /// `Base`. Every entry of a map is of that one class so far; a map whose
 /// entries differ will read a "type" word here.
 template <class Base> struct MapEntryClass;
-template <> struct MapEntryClass<ddb_BaseInstance> {
-  using Type = ddb_PartInstance;
-};
-template <> struct MapEntryClass<klcC_LoadCase> {
-  using Type = klcC_LoadCase;
-};
+template <> struct MapEntryClass<ddb_BaseInstance> { using Type = ddb_PartInstance; };
+template <> struct MapEntryClass<klcC_LoadCase> { using Type = klcC_LoadCase; };
 
 /// A step as the file gives it: its name, then the step's own fields. The
 /// model keeps the name as the step's key.
@@ -49,8 +47,9 @@ template <class Step> struct NamedStep {
   }
 };
 
-/// The word that opens every model file.
-enum class FileFormat { KeydeckModel };
+/// The word that opens every model file. `Unknown` stands for a file that has
+/// not said it yet; it has no word.
+enum class FileFormat { Unknown, KeydeckModel };
 
 template <> struct EnumTable<FileFormat> {
   static constexpr std::string_view Noun = "format";

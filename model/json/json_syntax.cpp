@@ -1,5 +1,6 @@
 #include "model/json/json_syntax.h"
 
+#include <cctype>
 #include <vector>
 
 namespace keydeck {
@@ -166,6 +167,8 @@ bool Scanner::String() {
     if (c < 0x20)
       return Fail(at_, "control character in a string; write it as an escape");
     if (c == '\\') {
+      if (at_ + 1 >= text_.size())
+        return Fail(start, "a string is not closed");
       if (!Escape())
         return false;
       continue;
@@ -182,8 +185,6 @@ bool Scanner::String() {
 
 bool Scanner::Escape() {
   const std::size_t start = at_++;
-  if (AtEnd())
-    return Fail(start, "a string is not closed");
   const unsigned char c = Peek();
   if (c != 'u') {
     constexpr std::string_view Escapable = "\"\\/bfnrt";

@@ -65,6 +65,8 @@ template <TabledEnum E> void WriteScalar(JsonText& out, E value) {
 
 /// True for the types that `WriteScalar` writes.
 template <class M>
-concept ScalarField = requires(JsonText& out, const M& value) { WriteScalar(out, value); };
+concept ScalarField = requires(JsonText& out, const M& value) {
+  WriteScalar(out, value);
+};
 
 } // namespace keydeck

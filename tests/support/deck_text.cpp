@@ -13,6 +13,7 @@
 #include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <unistd.h>
 
 namespace keydeck::test {
 
@@ -27,10 +28,10 @@ std::string DeckText(const qkw_Keyword& card) {
 }
 
 std::string DeckOfModel(const odb_Odb& odb, const char* modelName) {
+  static int decksWritten = 0; // tests run in parallel processes: the pid keeps them apart
   const std::filesystem::path path =
       std::filesystem::temp_directory_path() /
-      ("keydeck-test-" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) + "-" +
-       ::testing::UnitTest::GetInstance()->current_test_info()->name() + ".inp");
+      ("keydeck-test-" + std::to_string(getpid()) + "-" + std::to_string(++decksWritten) + ".inp");
   oif_ModelInfo info(odb.ddb().model(modelName));
   oif_Builder builder(info);
   EXPECT_TRUE(builder.WriteInputFile(cow_String(path.c_str())));

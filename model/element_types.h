@@ -1,0 +1,30 @@
+#pragma once
+
+#include "base/cow_String.h"
+
+/// What the deck needs to know of an element type's shape: the dimension of
+/// the element itself (1 a line, 2 a surface, 3 a solid; 0 a point or a type
+/// we do not know), the dimension of the space it lives in (2 or 3), whether
+/// it is a shell (its faces are its two sides), how many faces it has and how
+/// many nodes (0 when the type is not in the table).
+struct shp_Shape {
+  int elementDimension = 0;
+  int spaceDimension = 3;
+  bool shell = false;
+  int faces = 0;
+  int nodes = 0;
+};
+
+namespace keydeck {
+
+/// The shape of an element type by its label ("C3D8R", "S4R", "B31", ...):
+/// the families the table knows, with their suffix letters; any other type
+/// gives a default shape with no faces and no node count.
+shp_Shape ShapeOfElementType(const cow_String& type);
+
+/// The facet id (0-based) of a face label on an element of that shape:
+/// "S1".."Sn" on solids and plane elements, "SPOS"/"SNEG" on shells and on
+/// surfaces in space, "END1"/"END2" on lines; -1 when the label does not fit.
+int FacetIdOfFaceLabel(const shp_Shape& shape, const cow_String& label);
+
+} // namespace keydeck

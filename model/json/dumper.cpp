@@ -1,0 +1,143 @@
+#include "model/json/dumper.h"
+
+#include "model/json/fields.h"
+#include "model/json/json_text.h"
+
+#include <bit>
+#include <cstdint>
+#include <type_traits>
+
+namespace keydeck {
+
+namespace {
+
+// True when a field may be left out: it holds its default. A record is always
+// written; a container is left out when it and its default are empty.
+template <class M, class D> bool IsDefault(const M& member, const D& value) {
+  if constexpr (FieldRecord<M>) {
+    return false;
+  } else {
+    const M fallback = value;
+    if constexpr (requires { member.Size(); })
+      return member.Size() == 0 && fallback.Size() == 0;
+    else if constexpr (std::is_floating_point_v<M>)
+      return std::bit_cast<std::uint64_t>(member) == std::bit_cast<std::uint64_t>(fallback);
+    else
+      return member == fallback;
+  }
+}
+
+class Dumper {
+public:
+  explicit Dumper(JsonText& out) : out_(out) {}
+
+  template <ScalarField M> void Write(const M& value) { WriteScalar(out_, value); }
+
+  void Write(const cow_List<int>& numbers) {
+    out_.OpenArray(/*oneLine=*/true);
+    for (const int number : numbers)
+      out_.Integer(number);
+    out_.CloseArray();
+  }
+
+  void Write(const uti_CoordCont3D& points) {
+    out_.OpenArray(/*oneLine=*/false);
+    for (const uti_Coord3D& point : points) {
+      out_.OpenArray(/*oneLine=*/true);
+      for (const float coordinate : point)
+        out_.Real(coordinate);
+      out_.CloseArray();
+    }
+    out_.CloseArray();
+  }
+
+  void Write(const cow_2DArray<int>& rows) {
+    out_.OpenArray(/*oneLine=*/false);
+    for (int r = 0; r < rows.Rows(); ++r) {
+      out_.OpenArray(/*oneLine=*/true);
+      for (int c = 0; c < rows.Cols(); ++c)
+        out_.Integer(rows.ConstGet(r, c));
+      out_.CloseArray();
+    }
+    out_.CloseArray();
+  }
+
+  template <FieldRecord R> void Write(const cow_List<R>& records) {
+    out_.OpenArray(/*oneLine=*/false);
+    for (const R& record : records)
+      Write(record);
+    out_.CloseArray();
+  }
+
+  template <FieldRecord R> void Write(const cow_Btree<cow_String, R>& records) {
+    out_.OpenObject();
+    for (const auto& [name, record] : records) {
+      out_.Key(name.View());
+      Write(record);
+    }
+    out_.CloseObject();
+  }
+
+  template <class Base> void Write(const mdl_MapString2ObjCow<Base>& records) {
+    out_.OpenObject();
+    for (const auto& [name, handle] : records) {
+      out_.Key(name.View());
+      Write(RecordCast<typename MapEntryClass<Base>::Type>(*handle));
+    }
+    out_.CloseObject();
+  }
+
+  void Write(const kprC_StepContainer& steps) {
+    out_.OpenArray(/*oneLine=*/false);
+    for (int i = 0; i < steps.Size(); ++i) {
+      if (i == 0)
+        WriteStep<kprC_InitialStep>(steps.NameAt(i), steps.StepAt(i));
+      else
+        WriteStep<kprC_AnalysisStep>(steps.NameAt(i), steps.StepAt(i));
+    }
+    out_.CloseArray();
+  }
+
+  template <FieldRecord R> void Write(const R& record) {
+    R copy = record; // `Fields` hands out its members for writing; the copy shares them
+    out_.OpenObject();
+    FieldWriter writer(*this);
+    copy.Fields(writer);
+    out_.CloseObject();
+  }
+
+private:
+  class FieldWriter {
+  public:
+    explicit FieldWriter(Dumper& dumper) : dumper_(dumper) {}
+    template <class M> void operator()(const char* name, M& member) {
+      dumper_.out_.Key(name);
+      dumper_.Write(member);
+    }
+    template <class M, class D> void operator()(const char* name, M& member, const D& value) {
+      if (!IsDefault(member, value))
+        (*this)(name, member);
+    }
+
+  private:
+    Dumper& dumper_;
+  };
+
+  template <class Step> void WriteStep(const cow_String& name, const kprC_Step& step) {
+    Write(NamedStep<Step>{name, RecordCast<Step>(step)});
+  }
+
+  JsonText& out_;
+};
+
+} // namespace
+
+std::string DumpModel(const odb_Odb& odb) {
+  ModelFile file;
+  file.models = odb.ddb().models_;
+  JsonText out;
+  Dumper(out).Write(file);
+  return out.Take();
+}
+
+} // namespace keydeck

@@ -1,0 +1,941 @@
+#include "model/json/loader.h"
+
+#include "model/json/derive.h"
+#include "model/json/fields.h"
+#include "model/json/json_syntax.h"
+#include "model/json/json_text.h"
+
+#include <simdjson.h>
+
+#include <algorithm>
+#include <bit>
+#include <cassert>
+#include <cctype>
+#include <cerrno>
+#include <charconv>
+#include <climits>
+#include <cmath>
+#include <cstdint>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <string>
+#include <system_error>
+#include <type_traits>
+#include <utility>
+
+namespace keydeck {
+
+namespace {
+
+namespace od = simdjson::ondemand;
+
+// Record families that the deck writer cannot write yet, by the record that
+// would hold them. Such a key is refused with its own message, so that nobody
+// takes it for a misspelling and no part of a model vanishes from a deck
+// unnoticed. An entry leaves this table when the writer learns its family.
+enum class Holder { None, Model, Part, Assembly, Instance };
+
+template <class R> constexpr Holder HolderOf = Holder::None;
+template <> constexpr Holder HolderOf<ddb_Model> = Holder::Model;
+template <> constexpr Holder HolderOf<ddb_Part> = Holder::Part;
+template <> constexpr Holder HolderOf<ddb_Assembly> = Holder::Assembly;
+template <> constexpr Holder HolderOf<ddb_PartInstance> = Holder::Instance;
+
+struct PendingFamily {
+  Holder holder;
+  std::string_view key;
+  std::string_view words; // the message is WORDS " are not supported yet"
+};
+
+constexpr PendingFamily PendingFamilies[] = {
+    {Holder::Model, "materials", "materials"},
+    {Holder::Model, "sections", "sections"},
+    {Holder::Model, "loads", "loads"},
+    {Holder::Model, "boundaryConditions", "boundary conditions"},
+    {Holder::Model, "fields", "fields"},
+    {Holder::Model, "predefinedFields", "predefined fields"},
+    {Holder::Model, "interactions", "interactions"},
+    {Holder::Model, "interactionProperties", "interaction properties"},
+    {Holder::Model, "constraints", "constraints"},
+    {Holder::Model, "amplitudes", "amplitudes"},
+    {Holder::Model, "fieldOutputRequests", "field output requests"},
+    {Holder::Model, "historyOutputRequests", "history output requests"},
+    {Holder::Model, "connectorSections", "connector sections"},
+    {Holder::Model, "datums", "datums"},
+    {Holder::Model, "orientations", "orientations"},
+    {Holder::Part, "sets", "part sets"},
+    {Holder::Part, "surfaces", "part surfaces"},
+    {Holder::Part, "sectionAssignments", "section assignments"},
+    {Holder::Assembly, "sets", "assembly sets"},
+    {Holder::Assembly, "surfaces", "assembly surfaces"},
+    {Holder::Assembly, "nodes", "assembly nodes"},
+    {Holder::Assembly, "elements", "assembly elements"},
+    {Holder::Assembly, "connectors", "connectors"},
+    {Holder::Instance, "translation", "instance translations"},
+    {Holder::Instance, "rotation", "instance rotations"},
+};
+
+const PendingFamily* FindPendingFamily(Holder holder, std::string_view key) {
+  for (const PendingFamily& family : PendingFamilies)
+    if (family.holder == holder && family.key == key)
+      return &family;
+  return nullptr;
+}
+
+// The warnings of a model that loads: what the deck leaves out for now. This
+// is the one place that says so; it shrinks as the writer grows.
+void AddUnwrittenWarnings(const cow_Btree<cow_String, ddb_Model>& models,
+                          std::vector<std::string>& warnings) {
+  for (const auto& [name, model] : models) {
+    const kprC_StepContainer& steps = model.step().container();
+    for (int i = 1; i < steps.Size(); ++i)
+      warnings.push_back("models/" + std::string(name.View()) + "/steps/" + std::to_string(i) +
+                         ": the step card and its procedure are not written yet; the deck holds "
+                         "the step's raw text and closing cards only");
+  }
+}
+
+// A field left out of the file takes its default; a record left out takes the
+// default record, and the fields of that take their own defaults.
+struct DefaultFiller {
+  template <class M> void operator()(const char*, M&) {}
+  template <class M, class D> void operator()(const char*, M& member, const D& value);
+};
+
+template <class M, class D> void SetDefault(M& member, const D& value) {
+  member = value;
+  if constexpr (FieldRecord<M>) {
+    DefaultFiller filler;
+    member.Fields(filler);
+  }
+}
+
+template <class M, class D> void DefaultFiller::operator()(const char*, M& member, const D& value) {
+  SetDefault(member, value);
+}
+
+struct NameCollector {
+  std::vector<std::string_view> names;
+  template <class M> void operator()(const char* name, M&) { names.push_back(name); }
+  template <class M, class D> void operator()(const char* name, M&, const D&) {
+    names.push_back(name);
+  }
+};
+
+std::string Lower(std::string_view text) {
+  std::string lower(text);
+  for (char& c : lower)
+    c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+  return lower;
+}
+
+int EditDistance(std::string_view a, std::string_view b) {
+  std::vector<int> row(b.size() + 1);
+  for (std::size_t j = 0; j <= b.size(); ++j)
+    row[j] = static_cast<int>(j);
+  for (std::size_t i = 1; i <= a.size(); ++i) {
+    int diagonal = row[0];
+    row[0] = static_cast<int>(i);
+    for (std::size_t j = 1; j <= b.size(); ++j) {
+      const int above = row[j];
+      row[j] = std::min({row[j] + 1, row[j - 1] + 1, diagonal + (a[i - 1] == b[j - 1] ? 0 : 1)});
+      diagonal = above;
+    }
+  }
+  return row[b.size()];
+}
+
+// "; did you mean "nodes"?" for a key close to one of the record's fields.
+template <FieldRecord R> std::string Suggestion(std::string_view key) {
+  R probe;
+  NameCollector collector;
+  probe.Fields(collector);
+  std::string_view best;
+  int bestDistance = 3;
+  for (const std::string_view name : collector.names) {
+    const int distance = EditDistance(Lower(key), Lower(name));
+    if (distance < bestDistance && 2 * distance < static_cast<int>(name.size())) {
+      best = name;
+      bestDistance = distance;
+    }
+  }
+  return best.empty() ? std::string() : "; did you mean " + QuotedJson(best) + "?";
+}
+
+// A message of the JSON library in our form: lower-case, no final period.
+std::string PlainMessage(simdjson::error_code error) {
+  std::string text = simdjson::error_message(error);
+  if (!text.empty())
+    text[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(text[0])));
+  while (!text.empty() && (text.back() == '.' || text.back() == ' '))
+    text.pop_back();
+  return text;
+}
+
+std::string_view Trimmed(std::string_view token) {
+  while (!token.empty() && std::isspace(static_cast<unsigned char>(token.back())))
+    token.remove_suffix(1);
+  return token;
+}
+
+// True when `value` lies exactly halfway between two floats. Only there can
+// rounding the double to a float differ from rounding the text to a float
+// (the text may lie a hair off the midpoint), so only there the text is read
+// again as a float. Values below the normal float range take that road too.
+bool NeedsFloatFromText(double value) {
+  const std::uint64_t bits = std::bit_cast<std::uint64_t>(value);
+  const int exponent = static_cast<int>((bits >> 52) & 0x7FF);
+  if (exponent < 1023 - 126)
+    return value != 0;
+  return (bits & 0x1FFFFFFF) == 0x10000000;
+}
+
+std::string Described(simdjson::simdjson_result<od::json_type> type) {
+  od::json_type kind{};
+  if (std::move(type).get(kind))
+    return "an invalid value";
+  switch (kind) {
+  case od::json_type::array:
+    return "an array";
+  case od::json_type::object:
+    return "an object";
+  case od::json_type::number:
+    return "a number";
+  case od::json_type::string:
+    return "a string";
+  case od::json_type::boolean:
+    return "a boolean";
+  case od::json_type::null:
+    return "null";
+  }
+  return "an invalid value";
+}
+
+// Reads a model file's text into a `ModelFile`, collecting every problem with
+// its path. Each `Read` overload reads one kind of member; records go through
+// their `Fields` lists.
+class Reader {
+public:
+  Reader(const simdjson::padded_string& text, std::string_view documentName, LoadErrors& errors)
+      : text_(text), documentName_(documentName), errors_(errors) {}
+
+  // Reads the whole text; false when it is broken or not a model file, so that
+  // nothing more is worth checking.
+  bool Read(ModelFile& file);
+
+private:
+  struct PathSegment {
+    std::string_view name; // empty for an array index
+    std::size_t index;
+    bool isIndex;
+  };
+
+  class PathScope {
+  public:
+    PathScope(Reader& reader, std::string_view name) : reader_(reader) {
+      reader_.path_.push_back({name, 0, false});
+    }
+    PathScope(Reader& reader, std::size_t index) : reader_(reader) {
+      reader_.path_.push_back({{}, index, true});
+    }
+    PathScope(const PathScope&) = delete;
+    PathScope& operator=(const PathScope&) = delete;
+    ~PathScope() { reader_.path_.pop_back(); }
+
+  private:
+    Reader& reader_;
+  };
+
+  // Reads the field of a record whose name is `key`, if it has one.
+  class FieldReader {
+  public:
+    FieldReader(Reader& reader, std::string_view key, od::value value, std::uint64_t& seen)
+        : reader_(reader), key_(key), value_(value), seen_(seen) {}
+    template <class M> void operator()(const char* name, M& member) { Visit(name, member); }
+    template <class M, class D> void operator()(const char* name, M& member, const D&) {
+      Visit(name, member);
+    }
+    bool Found() const { return found_; }
+
+  private:
+    template <class M> void Visit(const char* name, M& member) {
+      const int index = index_++;
+      assert(index < 64 && "a record of more than 64 fields");
+      if (found_ || key_ != name)
+        return;
+      found_ = true;
+      const std::uint64_t bit = std::uint64_t{1} << index;
+      if ((seen_ & bit) != 0) {
+        reader_.Error("duplicate key " + QuotedJson(key_));
+        return;
+      }
+      seen_ |= bit;
+      PathScope scope(reader_, key_);
+      reader_.Read(value_, member);
+    }
+
+    Reader& reader_;
+    std::string_view key_;
+    od::value value_;
+    std::uint64_t& seen_;
+    int index_ = 0;
+    bool found_ = false;
+  };
+
+  // After a record's object: the required fields it lacks, the defaults of
+  // the optional ones.
+  class FieldFinisher {
+  public:
+    FieldFinisher(Reader& reader, std::uint64_t seen) : reader_(reader), seen_(seen) {}
+    template <class M> void operator()(const char* name, M&) {
+      if (!Seen())
+        reader_.Error("missing field " + QuotedJson(name));
+    }
+    template <class M, class D> void operator()(const char*, M& member, const D& value) {
+      if (!Seen())
+        SetDefault(member, value);
+    }
+
+  private:
+    bool Seen() { return ((seen_ >> index_++) & 1) != 0; }
+
+    Reader& reader_;
+    std::uint64_t seen_;
+    int index_ = 0;
+  };
+
+  // Paths and messages.
+  template <class... I> std::string PathText(I... indices) const;
+  template <class... I> void ErrorAt(std::string_view what, I... indices) {
+    if (!errors_.Keeping()) {
+      errors_.Add({}, {});
+      return;
+    }
+    errors_.Add(PathText(indices...), what);
+  }
+  void Error(std::string_view what) { ErrorAt(what); }
+  void Fail(simdjson::error_code error);
+  bool Stopped() const { return stopped_; }
+  template <class... I>
+  void Unexpected(od::value value, simdjson::error_code error, std::string_view expected,
+                  I... indices);
+  bool Finish();
+
+  // Structure.
+  template <class... I> bool GetObject(od::value value, od::object& object, I... indices) {
+    const simdjson::error_code error = value.get_object().get(object);
+    if (!error) [[likely]]
+      return true;
+    Unexpected(value, error, "an object", indices...);
+    return false;
+  }
+  template <class... I> bool GetArray(od::value value, od::array& array, I... indices) {
+    const simdjson::error_code error = value.get_array().get(array);
+    if (!error) [[likely]]
+      return true;
+    Unexpected(value, error, "an array", indices...);
+    return false;
+  }
+  bool CountItems(od::array& array, int& count);
+  template <class F> void ForEachItem(od::array& array, F&& read);
+  template <class F> void ForEachEntry(od::value value, F&& read);
+  template <class M> void ReadHeaderField(od::object& root, std::string_view key, M& member);
+  template <FieldRecord R> void ReadMembers(od::object& object, R& record);
+  template <FieldRecord R> void UnknownKey(std::string_view key);
+
+  // Scalars; the trailing indices name the place of an item inside the
+  // member, for messages only.
+  template <class... I> void ReadInt(od::value value, int& out, I... indices) {
+    std::int64_t number = 0;
+    const simdjson::error_code error = value.get_int64().get(number);
+    if (!error && number >= INT_MIN && number <= INT_MAX) [[likely]] {
+      out = static_cast<int>(number);
+      return;
+    }
+    BadInt(value, error, indices...);
+  }
+  template <class... I> void ReadFloat(od::value value, float& out, I... indices) {
+    double number = 0;
+    const simdjson::error_code error = value.get_double().get(number);
+    if (error) [[unlikely]] {
+      BadReal(value, error, indices...);
+      return;
+    }
+    out = static_cast<float>(number);
+    if (NeedsFloatFromText(number) || std::isinf(out)) [[unlikely]]
+      FloatFromText(value, out, indices...);
+  }
+  template <class... I>
+  [[gnu::cold]] void BadInt(od::value value, simdjson::error_code error, I... indices);
+  template <class... I>
+  [[gnu::cold]] void BadReal(od::value value, simdjson::error_code error, I... indices);
+  template <class... I> [[gnu::cold]] void FloatFromText(od::value value, float& out, I... indices);
+
+  // One overload per kind of member.
+  void Read(od::value value, cow_String& out);
+  void Read(od::value value, bool& out);
+  void Read(od::value value, int& out) { ReadInt(value, out); }
+  void Read(od::value value, double& out);
+  template <TabledEnum E> void Read(od::value value, E& out);
+  void Read(od::value value, FileVersion& out);
+  void Read(od::value value, cow_List<int>& out);
+  void Read(od::value value, uti_CoordCont3D& out);
+  void Read(od::value value, cow_2DArray<int>& out);
+  template <FieldRecord R> void Read(od::value value, cow_List<R>& out);
+  template <FieldRecord R> void Read(od::value value, cow_Btree<cow_String, R>& out);
+  template <class Base> void Read(od::value value, mdl_MapString2ObjCow<Base>& out);
+  void Read(od::value value, kprC_StepContainer& out);
+  template <class Step> void ReadStep(od::value value, std::size_t index, kprC_StepContainer& out);
+  template <FieldRecord R> void Read(od::value value, R& out) {
+    od::object object;
+    if (GetObject(value, object))
+      ReadMembers(object, out);
+  }
+
+  const simdjson::padded_string& text_;
+  std::string documentName_;
+  LoadErrors& errors_;
+  od::parser parser_;
+  od::document document_;
+  std::vector<PathSegment> path_;
+  bool stopped_ = false;
+  simdjson::error_code stopError_ = simdjson::SUCCESS;
+  std::string stopPath_;
+};
+
+template <class... I> std::string Reader::PathText(I... indices) const {
+  if (path_.empty() && sizeof...(indices) == 0)
+    return documentName_;
+  std::string text;
+  for (const PathSegment& segment : path_) {
+    if (!text.empty())
+      text += '/';
+    if (segment.isIndex)
+      text += std::to_string(segment.index);
+    else
+      text += segment.name;
+  }
+  ((text += (text.empty() ? "" : "/") + std::to_string(indices)), ...);
+  return text;
+}
+
+void Reader::Fail(simdjson::error_code error) {
+  if (stopped_)
+    return;
+  stopped_ = true;
+  stopError_ = error;
+  stopPath_ = PathText();
+}
+
+template <class... I>
+void Reader::Unexpected(od::value value, simdjson::error_code error, std::string_view expected,
+                        I... indices) {
+  if (error != simdjson::INCORRECT_TYPE) {
+    Fail(error);
+    return;
+  }
+  ErrorAt("expected " + std::string(expected) + ", found " + Described(value.type()), indices...);
+}
+
+template <class... I>
+void Reader::BadInt(od::value value, simdjson::error_code error, I... indices) {
+  od::json_type type{};
+  if ((!error || error == simdjson::INCORRECT_TYPE) && !value.type().get(type) &&
+      type == od::json_type::number) {
+    const std::string token(Trimmed(value.raw_json_token()));
+    if (token.find_first_of(".eE") == std::string::npos)
+      ErrorAt("expected an integer from " + std::to_string(INT_MIN) + " to " +
+                  std::to_string(INT_MAX) + ", found " + token,
+              indices...);
+    else
+      ErrorAt("expected an integer, found " + token, indices...);
+    return;
+  }
+  Unexpected(value, error, "an integer", indices...);
+}
+
+template <class... I>
+void Reader::BadReal(od::value value, simdjson::error_code error, I... indices) {
+  if (error == simdjson::NUMBER_ERROR) {
+    // A number that the grammar allows but a double cannot hold; a number
+    // that breaks the grammar is caught by the syntax check at the end.
+    ErrorAt("the number " + std::string(Trimmed(value.raw_json_token())) + " is out of range",
+            indices...);
+    return;
+  }
+  Unexpected(value, error, "a number", indices...);
+}
+
+template <class... I> void Reader::FloatFromText(od::value value, float& out, I... indices) {
+  const std::string_view token = Trimmed(value.raw_json_token());
+  const std::from_chars_result result =
+      std::from_chars(token.data(), token.data() + token.size(), out);
+  if (result.ec == std::errc::result_out_of_range || std::isinf(out))
+    ErrorAt("the number " + std::string(token) + " is out of the range of a coordinate",
+            indices...);
+}
+
+bool Reader::CountItems(od::array& array, int& count) {
+  std::size_t items = 0;
+  if (const simdjson::error_code error = array.count_elements().get(items)) {
+    Fail(error);
+    return false;
+  }
+  count = static_cast<int>(std::min<std::size_t>(items, INT_MAX));
+  return true;
+}
+
+// Calls `read(value, index)` for each item of `array` until the walk stops.
+template <class F> void Reader::ForEachItem(od::array& array, F&& read) {
+  std::size_t index = 0;
+  for (auto item : array) {
+    od::value value;
+    if (const simdjson::error_code error = item.get(value)) {
+      Fail(error);
+      return;
+    }
+    read(value, index++);
+    if (Stopped())
+      return;
+  }
+}
+
+// Calls `read(value, key)` for each member of the object `value`, with the key
+// pushed on the path.
+template <class F> void Reader::ForEachEntry(od::value value, F&& read) {
+  od::object object;
+  if (!GetObject(value, object))
+    return;
+  for (auto member : object) {
+    od::field field;
+    std::string_view key;
+    if (const simdjson::error_code error = std::move(member).get(field)) {
+      Fail(error);
+      return;
+    }
+    if (const simdjson::error_code error = field.unescaped_key().get(key)) {
+      Fail(error);
+      return;
+    }
+    read(field.value(), key);
+    if (Stopped())
+      return;
+  }
+}
+
+template <FieldRecord R> void Reader::ReadMembers(od::object& object, R& record) {
+  std::uint64_t seen = 0;
+  for (auto member : object) {
+    od::field field;
+    std::string_view key;
+    if (const simdjson::error_code error = std::move(member).get(field)) {
+      Fail(error);
+      return;
+    }
+    if (const simdjson::error_code error = field.unescaped_key().get(key)) {
+      Fail(error);
+      return;
+    }
+    FieldReader reader(*this, key, field.value(), seen);
+    record.Fields(reader);
+    if (!reader.Found())
+      UnknownKey<R>(key);
+    if (Stopped())
+      return;
+  }
+  FieldFinisher finisher(*this, seen);
+  record.Fields(finisher);
+}
+
+template <FieldRecord R> void Reader::UnknownKey(std::string_view key) {
+  if (const PendingFamily* family = FindPendingFamily(HolderOf<R>, key)) {
+    PathScope scope(*this, key);
+    Error(std::string(family->words) + " are not supported yet");
+    return;
+  }
+  if constexpr (std::is_same_v<R, NamedStep<kprC_InitialStep>>) {
+    if (key == "procedure") {
+      PathScope scope(*this, key);
+      Error("the first step is the initial step, which has no procedure");
+      return;
+    }
+  }
+  Error("unknown field " + QuotedJson(key) + Suggestion<R>(key));
+}
+
+template <class M> void Reader::ReadHeaderField(od::object& root, std::string_view key, M& member) {
+  if (Stopped())
+    return;
+  od::value value;
+  const simdjson::error_code error = root.find_field_unordered(key).get(value);
+  if (error == simdjson::NO_SUCH_FIELD) {
+    Error("missing field " + QuotedJson(key));
+    return;
+  }
+  if (error) {
+    Fail(error);
+    return;
+  }
+  PathScope scope(*this, key);
+  Read(value, member);
+}
+
+bool Reader::Read(ModelFile& file) {
+  if (const simdjson::error_code error = parser_.iterate(text_).get(document_)) {
+    Fail(error);
+    return Finish();
+  }
+  od::object root;
+  if (const simdjson::error_code error = document_.get_object().get(root)) {
+    if (error == simdjson::INCORRECT_TYPE)
+      Error("expected an object at the top level, found " + Described(document_.type()));
+    else
+      Fail(error);
+    return Finish();
+  }
+  // A text that does not say it is a model file of this version gets no other
+  // message: its other contents would only bury that one.
+  ReadHeaderField(root, "format", file.format);
+  ReadHeaderField(root, "version", file.version);
+  if (!errors_.Empty() || Stopped())
+    return Finish();
+  document_.rewind();
+  if (const simdjson::error_code error = document_.get_object().get(root)) {
+    Fail(error);
+    return Finish();
+  }
+  ReadMembers(root, file);
+  const char* rest = nullptr;
+  if (!Stopped() && !document_.current_location().get(rest))
+    Fail(simdjson::TRAILING_CONTENT);
+  return Finish() && file.format == FileFormat::KeydeckModel &&
+         file.version.number == FileVersion::Supported;
+}
+
+// At the end: a broken text gets one message that says where it breaks, in
+// place of whatever the walk made of it.
+bool Reader::Finish() {
+  if (!stopped_ && errors_.Empty())
+    return true;
+  const std::string_view text(text_.data(), text_.size());
+  if (const std::optional<JsonSyntaxError> syntax = FindJsonSyntaxError(text)) {
+    errors_.Clear();
+    errors_.Add(documentName_, "invalid JSON at line " + std::to_string(syntax->line) +
+                                   ", column " + std::to_string(syntax->column) + " (byte offset " +
+                                   std::to_string(syntax->offset) + "): " + syntax->what);
+    return false;
+  }
+  if (stopped_)
+    errors_.Add(stopPath_, "cannot read the JSON text here: " + PlainMessage(stopError_));
+  return !stopped_;
+}
+
+void Reader::Read(od::value value, cow_String& out) {
+  std::string_view text;
+  if (const simdjson::error_code error = value.get_string().get(text)) {
+    Unexpected(value, error, "a string");
+    return;
+  }
+  out = cow_String(text);
+}
+
+void Reader::Read(od::value value, bool& out) {
+  if (const simdjson::error_code error = value.get_bool().get(out))
+    Unexpected(value, error, "true or false");
+}
+
+void Reader::Read(od::value value, double& out) {
+  if (const simdjson::error_code error = value.get_double().get(out))
+    BadReal(value, error);
+}
+
+template <TabledEnum E> void Reader::Read(od::value value, E& out) {
+  std::string_view word;
+  if (const simdjson::error_code error = value.get_string().get(word)) {
+    Unexpected(value, error, "a string");
+    return;
+  }
+  if (const EnumEntry<E>* entry = FindEnumEntryByFileText<E>(word)) {
+    out = entry->value;
+    return;
+  }
+  std::string expected;
+  for (const EnumEntry<E>& entry : EnumTable<E>::Entries)
+    expected.append(expected.empty() ? "" : ", ").append(entry.fileText);
+  const bool several = std::size(EnumTable<E>::Entries) > 1;
+  Error("unknown " + std::string(EnumTable<E>::Noun) + " " + QuotedJson(word) + "; expected " +
+        (several ? "one of " : "") + expected);
+}
+
+void Reader::Read(od::value value, FileVersion& out) {
+  int number = 0;
+  const int before = errors_.Count();
+  ReadInt(value, number);
+  if (errors_.Count() != before)
+    return;
+  out.number = number;
+  if (number != FileVersion::Supported)
+    Error("version " + std::to_string(number) + " is not supported; this program reads version " +
+          std::to_string(FileVersion::Supported));
+}
+
+void Reader::Read(od::value value, cow_List<int>& out) {
+  od::array array;
+  int count = 0;
+  if (!GetArray(value, array) || !CountItems(array, count))
+    return;
+  out = cow_List<int>::WithCapacity(count);
+  ForEachItem(array, [&](od::value item, std::size_t index) {
+    int number = 0;
+    ReadInt(item, number, index);
+    out.Append(number);
+  });
+}
+
+void Reader::Read(od::value value, uti_CoordCont3D& out) {
+  od::array rows;
+  int count = 0;
+  if (!GetArray(value, rows) || !CountItems(rows, count))
+    return;
+  out = uti_CoordCont3D::WithCapacity(count);
+  ForEachItem(rows, [&](od::value item, std::size_t row) {
+    uti_Coord3D point{0, 0, 0};
+    od::array numbers;
+    if (GetArray(item, numbers, row)) {
+      std::size_t found = 0;
+      ForEachItem(numbers, [&](od::value number, std::size_t column) {
+        if (column < point.size())
+          ReadFloat(number, point[column], row, column);
+        found = column + 1;
+      });
+      if (found != point.size() && !Stopped())
+        ErrorAt("expected 3 coordinates, found " + std::to_string(found), row);
+    }
+    out.Append(point);
+  });
+}
+
+void Reader::Read(od::value value, cow_2DArray<int>& out) {
+  od::array rows;
+  int rowCount = 0;
+  if (!GetArray(value, rows) || !CountItems(rows, rowCount))
+    return;
+  // The first row fixes the width; the array is made once it is known, so
+  // that the labels go straight to their place.
+  std::vector<int> firstRow;
+  int* cells = nullptr;
+  std::size_t width = 0;
+  ForEachItem(rows, [&](od::value item, std::size_t row) {
+    od::array labels;
+    if (!GetArray(item, labels, row))
+      return;
+    if (cells == nullptr) {
+      ForEachItem(labels, [&](od::value label, std::size_t column) {
+        firstRow.push_back(0);
+        ReadInt(label, firstRow.back(), row, column);
+      });
+      if (Stopped())
+        return;
+      if (firstRow.empty()) {
+        ErrorAt("a connectivity row must name at least one node", row);
+        return;
+      }
+      width = firstRow.size();
+      out = cow_2DArray<int>(rowCount, static_cast<int>(width));
+      cells = &out.Get(0, 0);
+      std::copy(firstRow.begin(), firstRow.end(), cells + row * width);
+      return;
+    }
+    int* const cell = cells + row * width;
+    std::size_t found = 0;
+    ForEachItem(labels, [&](od::value label, std::size_t column) {
+      if (column < width)
+        ReadInt(label, cell[column], row, column);
+      found = column + 1;
+    });
+    if (found != width && !Stopped())
+      ErrorAt("a connectivity row of " + std::to_string(found) + " nodes where the first row has " +
+                  std::to_string(width),
+              row);
+  });
+}
+
+template <FieldRecord R> void Reader::Read(od::value value, cow_List<R>& out) {
+  od::array array;
+  if (!GetArray(value, array))
+    return;
+  ForEachItem(array, [&](od::value item, std::size_t index) {
+    PathScope scope(*this, index);
+    R record;
+    Read(item, record);
+    out.Append(std::move(record));
+  });
+}
+
+template <FieldRecord R> void Reader::Read(od::value value, cow_Btree<cow_String, R>& out) {
+  ForEachEntry(value, [&](od::value item, std::string_view key) {
+    const cow_String name(key);
+    if (out.IsMember(name)) {
+      Error("duplicate key " + QuotedJson(key));
+      return;
+    }
+    PathScope scope(*this, key);
+    R record;
+    Read(item, record);
+    out.Insert(name, std::move(record));
+  });
+}
+
+template <class Base> void Reader::Read(od::value value, mdl_MapString2ObjCow<Base>& out) {
+  ForEachEntry(value, [&](od::value item, std::string_view key) {
+    const cow_String name(key);
+    if (out.IsMember(name)) {
+      Error("duplicate key " + QuotedJson(key));
+      return;
+    }
+    PathScope scope(*this, key);
+    typename MapEntryClass<Base>::Type record;
+    Read(item, record);
+    out.Insert(name, static_cast<const Base&>(record));
+  });
+}
+
+void Reader::Read(od::value value, kprC_StepContainer& out) {
+  od::array array;
+  if (!GetArray(value, array))
+    return;
+  ForEachItem(array, [&](od::value item, std::size_t index) {
+    if (index == 0)
+      ReadStep<kprC_InitialStep>(item, index, out);
+    else
+      ReadStep<kprC_AnalysisStep>(item, index, out);
+  });
+}
+
+template <class Step>
+void Reader::ReadStep(od::value value, std::size_t index, kprC_StepContainer& out) {
+  PathScope scope(*this, index);
+  NamedStep<Step> step;
+  const int before = errors_.Count();
+  Read(value, step);
+  if (errors_.Count() != before)
+    return;
+  if (out.IsMember(step.name)) {
+    PathScope name(*this, "name");
+    Error("duplicate step name " + QuotedJson(step.name.View()));
+    return;
+  }
+  out.Append(step.name, kprC_StepContainer::Handle(static_cast<const kprC_Step&>(step.step)));
+}
+
+std::string ErrnoText(int number) {
+  std::string text = std::strerror(number);
+  if (!text.empty())
+    text[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(text[0])));
+  return text;
+}
+
+class FileCloser {
+public:
+  explicit FileCloser(std::FILE* file) : file_(file) {}
+  FileCloser(const FileCloser&) = delete;
+  FileCloser& operator=(const FileCloser&) = delete;
+  ~FileCloser() { std::fclose(file_); }
+
+private:
+  std::FILE* file_;
+};
+
+// Reads the file at `path` whole; false, with the reason in `errors`, when it
+// cannot.
+bool ReadFile(const char* path, simdjson::padded_string& text, LoadErrors& errors) {
+  std::error_code code;
+  const std::filesystem::file_status status = std::filesystem::status(path, code);
+  if (code == std::errc::no_such_file_or_directory) {
+    errors.Add(path, "no such file");
+    return false;
+  }
+  if (code) {
+    errors.Add(path, "cannot open the file: " + Lower(code.message()));
+    return false;
+  }
+  if (std::filesystem::is_directory(status)) {
+    errors.Add(path, "is a directory, not a model file");
+    return false;
+  }
+  if (!std::filesystem::is_regular_file(status)) {
+    errors.Add(path, "is not a regular file");
+    return false;
+  }
+  std::FILE* const file = std::fopen(path, "rb");
+  if (file == nullptr) {
+    errors.Add(path, "cannot open the file: " + ErrnoText(errno));
+    return false;
+  }
+  const FileCloser closer(file);
+  long size = -1;
+  if (std::fseek(file, 0, SEEK_END) == 0)
+    size = std::ftell(file);
+  if (size < 0 || std::fseek(file, 0, SEEK_SET) != 0) {
+    errors.Add(path, "cannot read the file: " + ErrnoText(errno));
+    return false;
+  }
+  if (size == 0) {
+    errors.Add(path, "the file is empty");
+    return false;
+  }
+  simdjson::padded_string buffer(static_cast<std::size_t>(size));
+  if (buffer.data() == nullptr) {
+    errors.Add(path, "cannot read the file: not enough memory");
+    return false;
+  }
+  if (std::fread(buffer.data(), 1, buffer.size(), file) != buffer.size()) {
+    errors.Add(path, "cannot read the file: " +
+                         (std::ferror(file) ? ErrnoText(errno) : "it shrank while being read"));
+    return false;
+  }
+  text = std::move(buffer);
+  return true;
+}
+
+odb_Odb LoadText(simdjson::padded_string& text, std::string_view documentName,
+                 std::vector<std::string>& warnings) {
+  LoadErrors errors;
+  ModelFile file;
+  file.format = FileFormat::Unknown;
+  file.version.number = 0;
+  bool whole = false;
+  {
+    Reader reader(text, documentName, errors);
+    whole = reader.Read(file);
+  }
+  text = simdjson::padded_string(); // the model holds all it needs from the text now
+  if (whole) {
+    for (const cow_String& name : file.models.Keys())
+      DeriveModel("models/" + std::string(name.View()), file.models.Get(name), errors);
+  }
+  if (!errors.Empty())
+    errors.Throw();
+  AddUnwrittenWarnings(file.models, warnings);
+  ddb_Ddb ddb;
+  ddb.models_ = file.models;
+  return odb_Odb(std::move(ddb));
+}
+
+} // namespace
+
+odb_Odb LoadModelFile(const char* path, std::vector<std::string>& warnings) {
+  simdjson::padded_string text;
+  LoadErrors errors;
+  if (!ReadFile(path, text, errors))
+    errors.Throw();
+  return LoadText(text, path, warnings);
+}
+
+odb_Odb LoadModelText(std::string_view json, std::vector<std::string>& warnings) {
+  simdjson::padded_string text(json);
+  return LoadText(text, "", warnings);
+}
+
+} // namespace keydeck

@@ -1,0 +1,206 @@
+#include "model/json/schema.h"
+
+#include "model/json/fields.h"
+#include "model/json/json_text.h"
+
+#include <cassert>
+#include <climits>
+#include <string_view>
+#include <vector>
+
+namespace keydeck {
+
+namespace {
+
+// Writes the schema of each kind of member. `Body` writes the keywords of a
+// schema object into an object already open, so that a property can add its
+// default beside them.
+class SchemaWriter {
+public:
+  explicit SchemaWriter(JsonText& out) : out_(out) {}
+
+  template <class M> void Schema(M value) {
+    out_.OpenObject();
+    Body(value);
+    out_.CloseObject();
+  }
+
+  void Body(const cow_String&) { Type("string"); }
+  void Body(const bool&) { Type("boolean"); }
+  void Body(const double&) { Type("number"); }
+  void Body(const int&) {
+    Type("integer");
+    out_.Key("minimum");
+    out_.Integer(INT_MIN);
+    out_.Key("maximum");
+    out_.Integer(INT_MAX);
+  }
+  template <TabledEnum E> void Body(const E&) {
+    Type("string");
+    out_.Key("enum");
+    out_.OpenArray(/*oneLine=*/true);
+    for (const EnumEntry<E>& entry : EnumTable<E>::Entries)
+      out_.String(entry.fileText);
+    out_.CloseArray();
+  }
+  void Body(const FileVersion&) {
+    Type("integer");
+    out_.Key("enum");
+    out_.OpenArray(/*oneLine=*/true);
+    out_.Integer(FileVersion::Supported);
+    out_.CloseArray();
+  }
+  void Body(const cow_List<int>&) { ArrayOf(0, /*minItems=*/-1, /*maxItems=*/-1); }
+  void Body(const uti_CoordCont3D&) {
+    Type("array");
+    out_.Key("items");
+    out_.OpenObject();
+    Type("array");
+    out_.Key("items");
+    Schema(0.0);
+    Bounds(3, 3);
+    out_.CloseObject();
+  }
+  void Body(const cow_2DArray<int>&) {
+    Type("array");
+    out_.Key("items");
+    out_.OpenObject();
+    ArrayOf(0, /*minItems=*/1, /*maxItems=*/-1);
+    out_.CloseObject();
+  }
+  template <FieldRecord R> void Body(const cow_List<R>&) { ArrayOf(R(), -1, -1); }
+  template <FieldRecord R> void Body(const cow_Btree<cow_String, R>&) { MapOf(R()); }
+  template <class Base> void Body(const mdl_MapString2ObjCow<Base>&) {
+    MapOf(typename MapEntryClass<Base>::Type());
+  }
+  void Body(const kprC_StepContainer&) {
+    Type("array");
+    out_.Key("prefixItems");
+    out_.OpenArray(/*oneLine=*/false);
+    Schema(NamedStep<kprC_InitialStep>());
+    out_.CloseArray();
+    out_.Key("items");
+    Schema(NamedStep<kprC_AnalysisStep>());
+  }
+  template <FieldRecord R> void Body(R& record) {
+    Type("object");
+    out_.Key("properties");
+    out_.OpenObject();
+    PropertyWriter properties(*this);
+    record.Fields(properties);
+    out_.CloseObject();
+    RequiredNames required;
+    record.Fields(required);
+    if (!required.names.empty()) {
+      out_.Key("required");
+      out_.OpenArray(/*oneLine=*/true);
+      for (const std::string_view name : required.names)
+        out_.String(name);
+      out_.CloseArray();
+    }
+    out_.Key("additionalProperties");
+    out_.Boolean(false);
+  }
+
+private:
+  class PropertyWriter {
+  public:
+    explicit PropertyWriter(SchemaWriter& writer) : writer_(writer) {}
+    template <class M> void operator()(const char* name, M& member) {
+      writer_.out_.Key(name);
+      writer_.Schema(member);
+    }
+    template <class M, class D> void operator()(const char* name, M& member, const D& value) {
+      writer_.out_.Key(name);
+      writer_.out_.OpenObject();
+      writer_.Body(member);
+      const M fallback = value;
+      writer_.Default(fallback);
+      writer_.out_.CloseObject();
+    }
+
+  private:
+    SchemaWriter& writer_;
+  };
+
+  struct RequiredNames {
+    std::vector<std::string_view> names;
+    template <class M> void operator()(const char* name, M&) { names.push_back(name); }
+    template <class M, class D> void operator()(const char*, M&, const D&) {}
+  };
+
+  void Type(std::string_view type) {
+    out_.Key("type");
+    out_.String(type);
+  }
+  void Bounds(int minItems, int maxItems) {
+    if (minItems >= 0) {
+      out_.Key("minItems");
+      out_.Integer(minItems);
+    }
+    if (maxItems >= 0) {
+      out_.Key("maxItems");
+      out_.Integer(maxItems);
+    }
+  }
+  template <class Item> void ArrayOf(Item item, int minItems, int maxItems) {
+    Type("array");
+    out_.Key("items");
+    Schema(item);
+    Bounds(minItems, maxItems);
+  }
+  template <class Entry> void MapOf(Entry entry) {
+    Type("object");
+    out_.Key("additionalProperties");
+    Schema(entry);
+  }
+
+  // The "default" of an optional field. A record's default is the record
+  // with its fields' defaults, which the fields' schemas say already; a
+  // not-given mark is said by leaving the field out, so neither has one here.
+  template <class M> void Default(const M& value) {
+    if constexpr (FieldRecord<M>) {
+      return;
+    } else if constexpr (ScalarField<M>) {
+      if (IsNotGivenMark(value))
+        return;
+      out_.Key("default");
+      WriteScalar(out_, value);
+    } else {
+      assert(value.Size() == 0 && "a container whose default is not empty");
+      out_.Key("default");
+      EmptyContainer(value);
+    }
+  }
+  template <class K, class V> void EmptyContainer(const cow_Btree<K, V>&) { EmptyObject(); }
+  template <class Base> void EmptyContainer(const mdl_MapString2ObjCow<Base>&) { EmptyObject(); }
+  template <class T> void EmptyContainer(const cow_List<T>&) { EmptyArray(); }
+  void EmptyContainer(const kprC_StepContainer&) { EmptyArray(); }
+  void EmptyObject() {
+    out_.OpenObject();
+    out_.CloseObject();
+  }
+  void EmptyArray() {
+    out_.OpenArray(/*oneLine=*/true);
+    out_.CloseArray();
+  }
+
+  JsonText& out_;
+};
+
+} // namespace
+
+std::string ModelSchema() {
+  JsonText out;
+  out.OpenObject();
+  out.Key("$schema");
+  out.String("https://json-schema.org/draft/2020-12/schema");
+  out.Key("title");
+  out.String("keydeck model file");
+  ModelFile file;
+  SchemaWriter(out).Body(file);
+  out.CloseObject();
+  return out.Take();
+}
+
+} // namespace keydeck

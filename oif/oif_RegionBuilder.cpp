@@ -1,0 +1,70 @@
+#include "oif/oif_RegionBuilder.h"
+
+#include "model/database.h"
+#include "model/regions.h"
+#include "oif/oif_Elset.h"
+#include "oif/oif_ModelInfo.h"
+#include "oif/oif_Nset.h"
+#include "oif/oif_Surface.h"
+
+oif_RegionBuilder::oif_RegionBuilder(oif_ModelInfo& info) : qkw_BuilderComponent(info) {}
+
+qkw_BuilderComponent* oif_RegionBuilder::Copy() const { return new oif_RegionBuilder(*this); }
+
+void oif_RegionBuilder::Build() {
+  for (const auto& [key, instance] : keydeck::FacadeOf(*model).Instances()) {
+    if (instance->IsPartInstance())
+      CreateInstanceRegions(keydeck::RecordCast<ddb_PartInstance>(*instance));
+  }
+  CreateAssemblyRegions();
+}
+
+void oif_RegionBuilder::CreateInstanceRegions(const ddb_PartInstance& instance) {
+  for (const ddb_Set& set : instance.mesh().set()) {
+    switch (set.setType()) {
+    case res_NodeSet:
+      AddInstanceDefinition(instance.name(), oif_Nset(set.set(), instance));
+      break;
+    case res_ElementSet:
+      AddInstanceDefinition(instance.name(), oif_Elset(set.set(), instance));
+      break;
+    case res_FacetSet:
+      AddInstanceDefinition(instance.name(), oif_Surface(set.set(), instance));
+      break;
+    }
+  }
+}
+
+void oif_RegionBuilder::CreateAssemblyRegions() {
+  const ddb_Assembly& assembly = keydeck::FacadeOf(*model).Model().rootAssembly();
+  for (const ddb_Set& set : assembly.set()) {
+    const rgnC_SetData& data = set.set();
+    if (data.SetType() == res_FacetSet)
+      continue;
+    const bool nodes = data.SetType() == res_NodeSet;
+    cow_List<cow_String> scopesDone;
+    for (int i = 0; i < data.NumSubsets(); ++i) {
+      const int meshIndex = data.SubSet(i).MeshIndex();
+      for (const auto& [key, instance] : assembly.instance()) {
+        if (!instance->IsPartInstance())
+          continue;
+        const ddb_PartInstance& partInstance = keydeck::RecordCast<ddb_PartInstance>(*instance);
+        if (partInstance.mesh().meshIndex() != meshIndex || !scopesDone.AppendUnlessMember(key))
+          continue;
+        if (nodes)
+          AddAssemblyDefinition(oif_Nset(data, partInstance, key));
+        else
+          AddAssemblyDefinition(oif_Elset(data, partInstance, key));
+      }
+      if (meshIndex != assembly.mesh().meshIndex() || !scopesDone.AppendUnlessMember(""))
+        continue;
+      if (nodes)
+        AddAssemblyDefinition(oif_Nset(data, assembly));
+      else
+        AddAssemblyDefinition(oif_Elset(data, assembly));
+    }
+  }
+  for (const ddb_Set& set : assembly.set())
+    if (set.setType() == res_FacetSet)
+      AddAssemblyDefinition(oif_Surface(set.set(), assembly));
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "qkw/qkw_BuilderComponent.h"
+
+class ddb_PartInstance;
+class oif_ModelInfo;
+
+/// Files the model's sets as deck cards: the sets of each instance's mesh in
+/// the instance's block, the sets of the assembly in the assembly section,
+/// one card per instance they touch, node and element sets ahead of all
+/// surfaces.
+class oif_RegionBuilder : public qkw_BuilderComponent {
+public:
+  explicit oif_RegionBuilder(oif_ModelInfo& info);
+  void Build() override;
+  qkw_BuilderComponent* Copy() const override;
+
+private:
+  void CreateInstanceRegions(const ddb_PartInstance& instance);
+  void CreateAssemblyRegions();
+};

@@ -1,0 +1,131 @@
+#include "oif/oif_Set.h"
+
+#include "base/utl_Stream.h"
+#include "model/database.h"
+#include "model/element_types.h"
+#include "model/regions.h"
+
+#include <algorithm>
+#include <vector>
+
+oif_Set::oif_Set(const rgnC_SetData& setData, const ddb_Assembly& assembly) {
+  if (assembly.hasMesh())
+    ComputeData(setData, assembly.mesh());
+}
+
+oif_Set::oif_Set(const rgnC_SetData& setData, const ddb_PartInstance& instance) {
+  ComputeData(setData, instance.mesh());
+}
+
+void oif_Set::ComputeData(const rgnC_SetData& setData, const ddb_Mesh& mesh) {
+  switch (setData.SetType()) {
+  case res_NodeSet:
+    return AddNodes(setData, mesh);
+  case res_ElementSet:
+    return AddElements(setData, mesh);
+  case res_FacetSet:
+    return AddFacets(setData, mesh);
+  }
+}
+
+void oif_Set::AddNodes(const rgnC_SetData& setData, const ddb_Mesh& mesh) {
+  const cow_List<int>& nodeLabels = mesh.nodeData().UserNodeLabels();
+  std::vector<int> labels;
+  for (int i = 0; i < setData.NumSubsets(); ++i) {
+    const rgnC_SubsetData& subset = setData.SubSet(i);
+    if (subset.MeshIndex() != mesh.meshIndex())
+      continue;
+    labels.reserve(labels.size() + static_cast<std::size_t>(subset.Size()));
+    for (const int index : subset.indices)
+      if (index >= 0 && index < nodeLabels.Size()) // an index outside the mesh is dropped
+        labels.push_back(nodeLabels.UncheckedConstGet(index));
+  }
+  labels_.SetFromArray(labels.data(), static_cast<int>(labels.size()));
+}
+
+void oif_Set::AddElements(const rgnC_SetData& setData, const ddb_Mesh& mesh) {
+  std::vector<int> labels;
+  for (int i = 0; i < setData.NumSubsets(); ++i) {
+    const rgnC_SubsetData& subset = setData.SubSet(i);
+    if (subset.MeshIndex() != mesh.meshIndex() || subset.ClassIndex() < 0)
+      continue;
+    const cow_List<int>& elementLabels =
+        mesh.elementData().elementClass(subset.ClassIndex()).userElementLabelsAsFlatArray();
+    labels.reserve(labels.size() + static_cast<std::size_t>(subset.Size()));
+    for (const int index : subset.indices)
+      labels.push_back(elementLabels.ConstGet(index));
+  }
+  labels_.SetFromArray(labels.data(), static_cast<int>(labels.size()));
+}
+
+void oif_Set::AddFacets(const rgnC_SetData& setData, const ddb_Mesh& mesh) {
+  for (int i = 0; i < setData.NumSubsets(); ++i) {
+    const rgnC_SubsetData& subset = setData.SubSet(i);
+    if (subset.MeshIndex() != mesh.meshIndex() || subset.ClassIndex() < 0 ||
+        subset.indices.Empty())
+      continue;
+    const ddb_ElementClass& elementClass = mesh.elementData().elementClass(subset.ClassIndex());
+    const cow_List<int>& elementLabels = elementClass.userElementLabelsAsFlatArray();
+    const shp_Shape shape = elementClass.shape();
+    const bool bySide = (shape.elementDimension == 2 && shape.spaceDimension == 3) || shape.shell;
+    const char* const prefix = shape.elementDimension == 1   ? "END"
+                               : shape.elementDimension == 3 ||
+                                         (shape.elementDimension == 2 && shape.spaceDimension == 2)
+                                   ? "S"
+                                   : "";
+    for (int j = 0; j < subset.indices.Size(); ++j) {
+      const int facet = subset.facetIds.ConstGet(j);
+      labels_.Append(elementLabels.ConstGet(subset.indices.UncheckedConstGet(j)));
+      if (!bySide) {
+        faceNames_.Append(prefix + cow_String(facet + 1));
+        continue;
+      }
+      // Sides of a shell: any other facet id adds no face name, on purpose.
+      if (facet == 0)
+        faceNames_.Append("SPOS");
+      else if (facet == 1)
+        faceNames_.Append("SNEG");
+      else if (facet == 6)
+        faceNames_.Append(cow_String());
+    }
+  }
+}
+
+void oif_Set::SortUnique() {
+  std::vector<int> labels(labels_.begin(), labels_.end());
+  std::sort(labels.begin(), labels.end());
+  labels.erase(std::unique(labels.begin(), labels.end()), labels.end());
+  labels_.SetFromArray(labels.data(), static_cast<int>(labels.size()));
+}
+
+bool oif_Set::CanGenerate() {
+  generate_ = true;
+  SortUnique();
+  if (labels_.Size() < 3)
+    return generate_ = false;
+  first_ = labels_.UncheckedConstGet(0);
+  last_ = labels_.UncheckedConstGet(labels_.Size() - 1);
+  step_ = labels_.UncheckedConstGet(1) - first_;
+  for (int i = 2; i < labels_.Size(); ++i)
+    if (labels_.UncheckedConstGet(i) - labels_.UncheckedConstGet(i - 1) != step_)
+      return generate_ = false;
+  return generate_;
+}
+
+void oif_Set::WriteData(utl_Stream& s) const {
+  if (generate_) {
+    s << first_ << ", " << last_ << ", " << step_ << endl;
+    return;
+  }
+  const int count = labels_.Size();
+  for (int p = 1; p <= count; ++p) {
+    s << labels_.UncheckedConstGet(p - 1);
+    if (p % 16 == 0)
+      s << "\n";
+    else if (p == count)
+      s << (p % 16 == 1 ? ", \n" : "\n"); // a lone label on the last line keeps a comma
+    else
+      s << ",";
+  }
+  s.Flush();
+}

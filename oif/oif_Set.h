@@ -1,0 +1,47 @@
+#pragma once
+
+#include "base/cow_List.h"
+#include "base/cow_String.h"
+
+class ddb_Assembly;
+class ddb_Mesh;
+class ddb_PartInstance;
+class rgnC_SetData;
+class utl_Stream;
+
+/// The data of a set card: a set's members turned into user labels (and,
+/// for a facet set, face names), the test for the generate form, and the
+/// data lines.
+class oif_Set {
+public:
+  /// The labels as given; no face names.
+  explicit oif_Set(const cow_List<int>& labels) : labels_(labels) {}
+  /// The members of the set in the assembly's own mesh; none without one.
+  oif_Set(const rgnC_SetData& setData, const ddb_Assembly& assembly);
+  /// The members of the set in the instance's mesh.
+  oif_Set(const rgnC_SetData& setData, const ddb_PartInstance& instance);
+
+  /// Sorts the labels and drops duplicates, then tells whether they are at
+  /// least three in arithmetic progression, so the set can be written as
+  /// "first, last, step".
+  bool CanGenerate();
+  /// The generate line, or the labels sixteen to a line.
+  void WriteData(utl_Stream& s) const;
+  const cow_List<int>& Labels() const { return labels_; }
+  /// For a facet set, the face name of each label.
+  const cow_List<cow_String> FaceList() const { return faceNames_; }
+
+private:
+  void ComputeData(const rgnC_SetData& setData, const ddb_Mesh& mesh);
+  void AddNodes(const rgnC_SetData& setData, const ddb_Mesh& mesh);
+  void AddElements(const rgnC_SetData& setData, const ddb_Mesh& mesh);
+  void AddFacets(const rgnC_SetData& setData, const ddb_Mesh& mesh);
+  void SortUnique();
+
+  cow_List<int> labels_;
+  cow_List<cow_String> faceNames_;
+  bool generate_ = false;
+  int first_ = 0;
+  int last_ = 0;
+  int step_ = 0;
+};
