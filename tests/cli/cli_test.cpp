@@ -1,0 +1,197 @@
+// The keydeck command as a user meets it: exit status, messages, and what it
+// leaves in the output folder.
+#include "tests/support/deck_text.h"
+
+#include <simdjson.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+namespace {
+
+namespace fs = std::filesystem;
+using keydeck::test::ReadFile;
+
+struct Outcome {
+  int status = -1;
+  std::string out;
+  std::string err;
+};
+
+/// Runs the keydeck binary with `args`, capturing its output.
+Outcome RunKeydeck(const std::vector<std::string>& args, const fs::path& folder) {
+  const fs::path out = folder / "stdout.txt";
+  const fs::path err = folder / "stderr.txt";
+  const pid_t pid = fork();
+  if (pid == 0) {
+    freopen(out.c_str(), "w", stdout);
+    freopen(err.c_str(), "w", stderr);
+    std::vector<char*> argv{const_cast<char*>(KEYDECK_BINARY)};
+    for (const std::string& arg : args)
+      argv.push_back(const_cast<char*>(arg.c_str()));
+    argv.push_back(nullptr);
+    execv(KEYDECK_BINARY, argv.data());
+    _exit(127);
+  }
+  int wstatus = 0;
+  waitpid(pid, &wstatus, 0);
+  return {WIFEXITED(wstatus) ? WEXITSTATUS(wstatus) : -1, ReadFile(out.string()),
+          ReadFile(err.string())};
+}
+
+int CountLines(const std::string& text) {
+  return static_cast<int>(std::count(text.begin(), text.end(), '\n'));
+}
+
+class Command : public ::testing::Test {
+protected:
+  void SetUp() override {
+    folder_ = fs::temp_directory_path() / ("keydeck-cli-" + std::to_string(getpid()) + "-" +
+                                           ::testing::UnitTest::GetInstance()
+                                               ->current_test_info()
+                                               ->name());
+    fs::remove_all(folder_);
+    fs::create_directories(folder_ / "out");
+  }
+  void TearDown() override { fs::remove_all(folder_); }
+
+  fs::path Model(const std::string& name, const std::string& text) const {
+    const fs::path path = folder_ / name;
+    std::ofstream(path, std::ios::binary) << text;
+    return path;
+  }
+  fs::path Out() const { return folder_ / "out"; }
+  std::vector<std::string> Written() const {
+    std::vector<std::string> names;
+    for (const auto& entry : fs::directory_iterator(Out()))
+      names.push_back(entry.path().filename().string());
+    std::sort(names.begin(), names.end());
+    return names;
+  }
+
+  fs::path folder_;
+};
+
+const char* const GoodModel = R"({"format": "keydeck-model", "version": 1,
+  "models": {"Default Model": {"parts": {"P": {}},
+    "assembly": {"instances": {"P-1": {"part": "P"}}}}}})";
+
+TEST_F(Command, VersionHelpAndUsage) {
+  const Outcome version = RunKeydeck({"--version"}, folder_);
+  EXPECT_EQ(version.status, 0);
+  EXPECT_EQ(version.out, "keydeck " KEYDECK_VERSION "\n");
+  const Outcome help = RunKeydeck({"write", "--help"}, folder_);
+  EXPECT_EQ(help.status, 0);
+  EXPECT_NE(help.out.find("Usage: keydeck"), std::string::npos);
+
+  const std::vector<std::vector<std::string>> misuses = {
+      {}, {"frobnicate"}, {"write"}, {"write", "a.json", "b.json"}, {"write", "a.json", "-x"},
+      {"write", "a.json", "-j"}, {"schema", "a.json"}};
+  for (const auto& args : misuses) {
+    const Outcome run = RunKeydeck(args, folder_);
+    EXPECT_EQ(run.status, 2) << run.err;
+    EXPECT_NE(run.err.find("keydeck: "), std::string::npos);
+  }
+}
+
+TEST_F(Command, WritesTheDeckAndSaysWhere) {
+  const fs::path model = Model("beam.json", GoodModel);
+  const Outcome run = RunKeydeck({"write", model.string(), "-o", Out().string()}, folder_);
+  EXPECT_EQ(run.status, 0) << run.err;
+  EXPECT_EQ(run.out, "keydeck: wrote " + (Out() / "beam.inp").string() + "\n");
+  EXPECT_EQ(Written(), std::vector<std::string>{"beam.inp"});
+  EXPECT_NE(ReadFile((Out() / "beam.inp").string()).find("*Part, name=P\n"), std::string::npos);
+
+  const Outcome named = RunKeydeck({"write", model.string(), "-o", Out().string(), "-j", "Job-7", "-q"},
+                               folder_);
+  EXPECT_EQ(named.status, 0);
+  EXPECT_EQ(named.out, "");
+  EXPECT_EQ(Written(), (std::vector<std::string>{"Job-7.inp", "beam.inp"}));
+}
+
+TEST_F(Command, BadModelsFailCleanlyAndKeepTheOldDeck) {
+  const std::string model = R"({"format": "keydeck-model", "version": 1, "models": {"Default Model": )";
+  struct Case {
+    const char* name;
+    std::string text;
+    const char* message; // a part of the one message expected on stderr
+  };
+  const Case cases[] = {
+      {"invalid", "{\"format\": \"keydeck-model\",\n  \"version\": 1,,", "line 2, column"},
+      {"empty", "", "empty"},
+      {"wrong_type", model + R"({"parts": {"P": {"solverInput": 7}}}}})",
+       "models/Default Model/parts/P/solverInput: expected a string"},
+      {"unknown_field", model + R"({"partz": {}}}})", "unknown field \"partz\""},
+      {"unknown_part", model + R"({"assembly": {"instances": {"I": {"part": "Q"}}}}}})",
+       "models/Default Model/assembly/instances/I/part"},
+      {"duplicate", model + R"({"parts": {"P": {}, "P": {}}}}})", "duplicate"},
+  };
+  const fs::path old = Out() / "job.inp";
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.name);
+    std::ofstream(old) << "older deck\n";
+    const fs::path path = Model(std::string(c.name) + ".json", c.text);
+    const Outcome run = RunKeydeck({"write", path.string(), "-o", Out().string(), "-j", "job"}, folder_);
+    EXPECT_EQ(run.status, 1);
+    EXPECT_NE(run.err.find(c.message), std::string::npos) << run.err;
+    EXPECT_EQ(CountLines(run.err), 1) << run.err;
+    EXPECT_EQ(run.out, "");
+    EXPECT_EQ(ReadFile(old.string()), "older deck\n");
+    EXPECT_EQ(Written(), std::vector<std::string>{"job.inp"});
+  }
+}
+
+TEST_F(Command, MissingFilesModelsAndFolders) {
+  const fs::path model = Model("m.json", GoodModel);
+  struct Case {
+    std::vector<std::string> args;
+    std::string message;
+  };
+  const Case cases[] = {
+      {{"write", (folder_ / "absent.json").string()}, "absent.json"},
+      {{"write", folder_.string()}, folder_.string()},
+      {{"write", model.string(), "-m", "Default Modle"}, "no model named \"Default Modle\""},
+      {{"write", model.string(), "-o", (folder_ / "m.json" / "sub").string()}, "cannot write"},
+      {{"write", model.string(), "-o", (folder_ / "absent").string()}, "cannot write"},
+      {{"check", (folder_ / "absent.json").string()}, "absent.json"},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.args[1]);
+    const Outcome run = RunKeydeck(c.args, folder_);
+    EXPECT_EQ(run.status, 1);
+    EXPECT_NE(run.err.find(c.message), std::string::npos) << run.err;
+    EXPECT_EQ(CountLines(run.err), 1) << run.err;
+  }
+  EXPECT_TRUE(Written().empty());
+}
+
+TEST_F(Command, CheckReportsEveryProblem) {
+  const fs::path good = Model("good.json", GoodModel);
+  const Outcome ok = RunKeydeck({"check", good.string()}, folder_);
+  EXPECT_EQ(ok.status, 0) << ok.err;
+  EXPECT_NE(ok.out.find("valid"), std::string::npos);
+
+  const fs::path bad = Model("bad.json", R"({"format": "keydeck-model", "version": 1,
+    "models": {"Default Model": {"parts": {"P": {"solverInput": 1, "nodez": {}}},
+      "assembly": {"instances": {"I": {"part": "Q"}}}}}})");
+  const Outcome run = RunKeydeck({"check", bad.string()}, folder_);
+  EXPECT_EQ(run.status, 1);
+  EXPECT_EQ(CountLines(run.err), 3) << run.err;
+}
+
+TEST_F(Command, SchemaIsJson) {
+  const Outcome run = RunKeydeck({"schema"}, folder_);
+  ASSERT_EQ(run.status, 0);
+  simdjson::dom::parser parser;
+  simdjson::dom::element schema;
+  EXPECT_EQ(parser.parse(run.out).get(schema), simdjson::SUCCESS);
+  std::string_view draft;
+  EXPECT_EQ(schema["$schema"].get(draft), simdjson::SUCCESS);
+}
+
+} // namespace
