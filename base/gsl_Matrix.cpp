@@ -25,8 +25,10 @@ void gsl_Matrix::GetAxisRotation(gsl_Point& point, gsl_Vector& axis, double& ang
   const double (&r)[3][3] = rotation_;
   point = gsl_Point{};
   const double cosine = std::clamp((r[0][0] + r[1][1] + r[2][2] - 1) / 2, -1.0, 1.0);
-  angle = std::acos(cosine);
   const gsl_Vector skew{r[2][1] - r[1][2], r[0][2] - r[2][0], r[1][0] - r[0][1]};
+  // The skew part holds twice the sine: atan2 keeps the angle exact near 0
+  // and near a half turn, where acos of the cosine alone loses digits.
+  angle = std::atan2(skew.ComputeMagnitude() / 2, cosine);
   if (skew.ComputeMagnitude() > 1e-9) {
     axis = skew.Normalized();
     return;

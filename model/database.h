@@ -3,11 +3,17 @@
 #include "base/cow_Btree.h"
 #include "base/cow_String.h"
 #include "base/mdl_MapString2ObjCow.h"
+#include "model/materials.h"
 #include "model/mesh.h"
 #include "model/records.h"
+#include "model/sections.h"
 #include "model/steps.h"
 
-/// A part: its mesh (shared by all its instances) and its raw solver text.
+#include <array>
+#include <optional>
+
+/// A part: its mesh (shared by all its instances), its sets and surfaces and
+/// its raw solver text.
 class ddb_Part {
 public:
   const cow_String& solverInput() const { return solverInput_; }
@@ -16,10 +22,14 @@ public:
   template <class V> void Fields(V& v) {
     v("nodes", mesh_.nodes, ddb_NodeData());
     v("elements", mesh_.elements.classes, cow_List<ddb_ElementClass>());
+    v("sets", setDefinitions_, cow_Btree<cow_String, keydeck::PartSet>());
+    v("surfaces", surfaceDefinitions_, cow_Btree<cow_String, keydeck::PartSurface>());
     v("solverInput", solverInput_, cow_String());
   }
 
-  ddb_Mesh mesh_;
+  ddb_Mesh mesh_; ///< its `sets` are derived after loading from the two maps below
+  cow_Btree<cow_String, keydeck::PartSet> setDefinitions_;
+  cow_Btree<cow_String, keydeck::PartSurface> surfaceDefinitions_;
   cow_String solverInput_;
 };
 
@@ -46,14 +56,33 @@ public:
   virtual ddb_BaseInstance* Copy() const = 0;
   virtual unsigned DynTypeId() const = 0;
   virtual bool IsPartInstance() const { return false; }
-  /// Translation (three values) then rotation vector (three values, radians
-  /// about the axis through the origin); all zero for an instance in place.
+  /// Translation (three values) then rotation vector (three values: the unit
+  /// axis through the origin times the angle in radians); all zero for an
+  /// instance in place. The rotation applies after the translation.
   const cow_List<double>& transform() const { return transform_; }
 
   cow_List<double> transform_{0, 0, 0, 0, 0, 0};
 };
 
-/// An instance of a part: the part's mesh under a mesh index of its own.
+namespace keydeck {
+
+/// The rotation of an instance as the file gives it: an axis through the
+/// origin (of any length but zero) and the angle in degrees about it.
+struct InstanceRotation {
+  std::array<double, 3> axis{0, 0, 1};
+  double angle = 0;
+
+  template <class V> void Fields(V& v) {
+    v("axis", axis);
+    v("angle", angle);
+  }
+};
+
+} // namespace keydeck
+
+/// An instance of a part: the part's mesh under a mesh index of its own,
+/// placed by a translation and then a rotation about an axis through the
+/// origin.
 class ddb_PartInstance : public ddb_BaseInstance {
 public:
   ddb_BaseInstance* Copy() const override { return new ddb_PartInstance(*this); }
@@ -72,20 +101,25 @@ public:
 
   template <class V> void Fields(V& v) {
     v("part", partName_);
+    v("translation", translation_, std::array<double, 3>{0, 0, 0});
+    v("rotation", rotation_, std::nullopt);
     v("solverInput", solverInput_, cow_String());
   }
 
   cow_String partName_;
+  std::array<double, 3> translation_{0, 0, 0};
+  std::optional<keydeck::InstanceRotation> rotation_;
   cow_String solverInput_;
   // Derived after loading:
   cow_String name_; ///< the instance's key in the assembly
-  ddb_Mesh mesh_;   ///< the part's mesh with this instance's mesh index
+  ddb_Mesh mesh_;   ///< the part's mesh and sets with this instance's mesh index
+  // and `transform_` of the base, from `translation_` and `rotation_`.
 };
 
 using ddb_InstanceContainer = mdl_MapString2ObjCow<ddb_BaseInstance>;
 
-/// The root assembly: its instances, its own mesh (connector wires) and its
-/// raw solver text.
+/// The root assembly: its instances, its sets and surfaces, its own mesh
+/// (connector wires) and its raw solver text.
 class ddb_Assembly {
 public:
   const cow_String& name() const { return name_; }
@@ -99,6 +133,8 @@ public:
   template <class V> void Fields(V& v) {
     v("name", name_, cow_String("Assembly"));
     v("instances", instances_, ddb_InstanceContainer());
+    v("sets", setDefinitions_, cow_Btree<cow_String, keydeck::AssemblySet>());
+    v("surfaces", surfaceDefinitions_, cow_Btree<cow_String, keydeck::AssemblySurface>());
     v("solverInput", solverInput_, cow_String());
   }
 
@@ -107,7 +143,9 @@ public:
   cow_String solverInput_;
   bool hasMesh_ = false;
   ddb_Mesh mesh_;
-  ddb_SetList sets_;
+  cow_Btree<cow_String, keydeck::AssemblySet> setDefinitions_;
+  cow_Btree<cow_String, keydeck::AssemblySurface> surfaceDefinitions_;
+  ddb_SetList sets_; ///< derived after loading from the two maps above
 };
 
 /// One model of the database. Its members are copy-on-write, so copying a
@@ -131,6 +169,8 @@ public:
   bool endRestartStep() const { return endRestartStep_; }
   const cow_String& globalJob() const { return globalJob_; }
   bool shellToSolid() const { return shellToSolid_; }
+  const mdl_MapString2ObjCow<kmaC_Material>& material() const { return materials_; }
+  const mdl_MapString2ObjCow<kseC_Section>& sections() const { return sections_; }
 
   template <class V> void Fields(V& v) {
     v("parts", parts_.parts_, cow_Btree<cow_String, ddb_Part>());
@@ -151,6 +191,8 @@ public:
 
   ddb_PartContainer parts_;
   ddb_Assembly assembly_;
+  mdl_MapString2ObjCow<kmaC_Material> materials_;
+  mdl_MapString2ObjCow<kseC_Section> sections_; ///< none until the section families load
   ddb_DdbStepContainer steps_;
   cow_String topLevelSolverInput_;
   cow_String solverInput_;

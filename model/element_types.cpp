@@ -16,20 +16,26 @@ struct Family {
   bool shell;
   bool nodesFollow;
   int fixedNodes; // when the node count does not follow the prefix
+  int omissible;  // nodes that an element may leave out
+  int optional;   // nodes that an element may add
 };
 
-// Longer prefixes first where one prefix begins another ("STRI" before "S").
+// Longer prefixes first where one prefix begins another ("STRI" before "S",
+// "C3D27" before "C3D"). A beam in space may name a third node that orients
+// its section; a connector may leave out its second node (to ground); C3D27
+// and C3D15V may leave out midside nodes.
 constexpr Family Families[] = {
-    {"C3D", 3, 3, false, true, 0},    {"DC3D", 3, 3, false, true, 0},
-    {"SC", 3, 3, false, true, 0},     {"CPS", 2, 2, false, true, 0},
-    {"CPE", 2, 2, false, true, 0},    {"CAX", 2, 2, false, true, 0},
-    {"DC2D", 2, 2, false, true, 0},   {"M3D", 2, 3, true, true, 0},
-    {"R3D", 2, 3, true, true, 0},     {"STRI3", 2, 3, true, false, 3},
-    {"STRI65", 2, 3, true, false, 6}, {"S", 2, 3, true, true, 0},
-    {"B21", 1, 2, false, false, 2},   {"B22", 1, 2, false, false, 3},
-    {"B31", 1, 3, false, false, 2},   {"B32", 1, 3, false, false, 3},
-    {"T2D", 1, 2, false, true, 0},    {"T3D", 1, 3, false, true, 0},
-    {"CONN2D", 0, 2, false, true, 0}, {"CONN3D", 0, 3, false, true, 0},
+    {"C3D27", 3, 3, false, false, 27, 6, 0}, {"C3D15V", 3, 3, false, false, 18, 3, 0},
+    {"C3D", 3, 3, false, true, 0, 0, 0},     {"DC3D", 3, 3, false, true, 0, 0, 0},
+    {"SC", 3, 3, false, true, 0, 0, 0},      {"CPS", 2, 2, false, true, 0, 0, 0},
+    {"CPE", 2, 2, false, true, 0, 0, 0},     {"CAX", 2, 2, false, true, 0, 0, 0},
+    {"DC2D", 2, 2, false, true, 0, 0, 0},    {"M3D", 2, 3, true, true, 0, 0, 0},
+    {"R3D", 2, 3, true, true, 0, 0, 0},      {"STRI3", 2, 3, true, false, 3, 0, 0},
+    {"STRI65", 2, 3, true, false, 6, 0, 0},  {"S", 2, 3, true, true, 0, 0, 0},
+    {"B21", 1, 2, false, false, 2, 0, 0},    {"B22", 1, 2, false, false, 3, 0, 0},
+    {"B31", 1, 3, false, false, 2, 0, 1},    {"B32", 1, 3, false, false, 3, 0, 1},
+    {"T2D", 1, 2, false, true, 0, 0, 0},     {"T3D", 1, 3, false, true, 0, 0, 0},
+    {"CONN2D", 0, 2, false, true, 0, 1, 0},  {"CONN3D", 0, 3, false, true, 0, 1, 0},
 };
 
 int SolidFaces(int nodes) {
@@ -39,6 +45,7 @@ int SolidFaces(int nodes) {
     return 4; // tetrahedra
   case 6:
   case 15:
+  case 18:
     return 5; // wedges
   case 8:
   case 20:
@@ -67,8 +74,10 @@ int LeadingNumber(std::string_view text) {
 }
 
 shp_Shape ShapeOf(const Family& family, std::string_view rest) {
-  shp_Shape shape{family.elementDimension, family.spaceDimension, family.shell, 0, 0};
+  shp_Shape shape{family.elementDimension, family.spaceDimension, family.shell, 0, 0, 0, 0};
   shape.nodes = family.nodesFollow ? LeadingNumber(rest) : family.fixedNodes;
+  shape.fewestNodes = shape.nodes - family.omissible;
+  shape.mostNodes = shape.nodes + family.optional;
   if (family.shell)
     shape.faces = 2;
   else if (family.elementDimension == 3)
@@ -108,6 +117,16 @@ int FacetIdOfFaceLabel(const shp_Shape& shape, const cow_String& label) {
     return -1;
   const int face = LeadingNumber(digits);
   return face >= 1 && face <= shape.faces ? face - 1 : -1;
+}
+
+std::string FaceLabelsOf(const shp_Shape& shape) {
+  if (shape.shell || (shape.elementDimension == 2 && shape.spaceDimension == 3))
+    return "SPOS and SNEG";
+  if (shape.elementDimension == 1)
+    return "END1 and END2";
+  if (shape.faces == 0)
+    return {};
+  return "S1 to S" + std::to_string(shape.faces);
 }
 
 } // namespace keydeck

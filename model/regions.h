@@ -3,6 +3,9 @@
 #include "base/cow_List.h"
 #include "base/cow_String.h"
 
+#include <array>
+#include <optional>
+
 /// What a set selects.
 enum res_SetTypeEnm : int {
   res_NodeSet = 0,
@@ -75,3 +78,132 @@ public:
   int setIndex = -1;
   rgnC_SetData set;
 };
+
+namespace keydeck {
+
+/// The range form of a list of labels: {"generate": [first, last, step]}.
+struct LabelRange {
+  std::array<int, 3> generate{0, 0, 1};
+
+  int First() const { return generate[0]; }
+  int Last() const { return generate[1]; }
+  int Step() const { return generate[2]; }
+
+  template <class V> void Fields(V& v) { v("generate", generate); }
+};
+
+/// A list of labels as the file gives it: the labels themselves, or a range
+/// whose labels are first, first + step, ... as far as they do not pass last
+/// (so last is a label only when the steps reach it). The loader checks that
+/// a range has first <= last and step >= 1. Labels may repeat.
+class LabelList {
+public:
+  /// Calls `use(label)` for each label in order until it returns false.
+  template <class F> void ForEach(F&& use) const {
+    if (!isRange) {
+      for (const int label : labels)
+        if (!use(label))
+          return;
+      return;
+    }
+    for (long long label = range.First(); label <= range.Last(); label += range.Step())
+      if (!use(static_cast<int>(label)))
+        return;
+  }
+
+  cow_List<int> labels; ///< when the file gives a list
+  bool isRange = false;
+  LabelRange range; ///< when the file gives a range
+};
+
+/// A set of a part: `nodes` or `elements` (exactly one of them), and whether
+/// the deck marks it internal.
+struct PartSet {
+  std::optional<LabelList> nodes;
+  std::optional<LabelList> elements;
+  bool internal = false;
+
+  template <class V> void Fields(V& v) {
+    v("nodes", nodes, std::nullopt);
+    v("elements", elements, std::nullopt);
+    v("internal", internal, false);
+  }
+};
+
+/// One face label on some elements of a part: {"face": "S2", "elements": LABELS}.
+struct FaceLabels {
+  cow_String face;
+  LabelList elements;
+
+  template <class V> void Fields(V& v) {
+    v("face", face);
+    v("elements", elements);
+  }
+};
+
+/// A surface of a part: element faces or nodes (exactly one of them).
+struct PartSurface {
+  std::optional<cow_List<FaceLabels>> faces;
+  std::optional<LabelList> nodes;
+  bool internal = false;
+
+  template <class V> void Fields(V& v) {
+    v("faces", faces, std::nullopt);
+    v("nodes", nodes, std::nullopt);
+    v("internal", internal, false);
+  }
+};
+
+/// Labels of one instance: {"instance": "Link-1", "labels": LABELS}.
+struct InstanceLabels {
+  cow_String instance;
+  LabelList labels;
+
+  template <class V> void Fields(V& v) {
+    v("instance", instance);
+    v("labels", labels);
+  }
+};
+
+/// One face label on some elements of one instance.
+struct InstanceFaceLabels {
+  cow_String instance;
+  cow_String face;
+  LabelList elements;
+
+  template <class V> void Fields(V& v) {
+    v("instance", instance);
+    v("face", face);
+    v("elements", elements);
+  }
+};
+
+/// A set of the assembly over the nodes or the elements (exactly one of
+/// them) of one or more instances.
+struct AssemblySet {
+  std::optional<cow_List<InstanceLabels>> nodes;
+  std::optional<cow_List<InstanceLabels>> elements;
+  bool internal = false;
+
+  template <class V> void Fields(V& v) {
+    v("nodes", nodes, std::nullopt);
+    v("elements", elements, std::nullopt);
+    v("internal", internal, false);
+  }
+};
+
+/// A surface of the assembly: element faces or nodes (exactly one of them)
+/// of one or more instances.
+struct AssemblySurface {
+  std::optional<cow_List<InstanceFaceLabels>> faces;
+  std::optional<cow_List<InstanceLabels>> nodes;
+  bool internal = false;
+
+  template <class V> void Fields(V& v) {
+    v("faces", faces, std::nullopt);
+    v("nodes", nodes, std::nullopt);
+    v("internal", internal, false);
+  }
+};
+
+} // namespace keydeck

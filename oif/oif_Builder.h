@@ -6,6 +6,7 @@
 #include "oif/oif_FinalBuilder.h"
 #include "oif/oif_InstanceBuilder.h"
 #include "oif/oif_JobKeywordsBuilder.h"
+#include "oif/oif_MaterialBuilder.h"
 #include "oif/oif_PartBuilder.h"
 #include "oif/oif_RegionBuilder.h"
 #include "qkw/qkw_BuilderComponent.h"
@@ -57,6 +58,7 @@ private:
   // Construction order; the build order and the writing order differ from it.
   oif_JobKeywordsBuilder jobKeywords_;
   oif_InstanceBuilder instance_;
+  oif_MaterialBuilder material_;
   oif_PartBuilder part_;
   oif_RegionBuilder region_;
   oif_FinalBuilder final_;

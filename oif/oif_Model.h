@@ -13,6 +13,10 @@ public:
   const ddb_Model& Model() const { return model_; }
   const ddb_PartContainer& Parts() const { return model_.part(); }
   const ddb_InstanceContainer& Instances() const { return model_.rootAssembly().instance(); }
+  /// The materials, in ascending order of name.
+  const mdl_MapString2ObjCow<kmaC_Material>& Materials() const { return model_.material(); }
+  /// The sections, in ascending order of name.
+  const mdl_MapString2ObjCow<kseC_Section>& Sections() const { return model_.sections(); }
 
   const kprC_StepContainer& Steps() const override { return model_.step().container(); }
   double AbsoluteZero() const override { return model_.absoluteZero(); }

@@ -2,8 +2,15 @@
 
 #include "model/json/json_text.h"
 
+#include <algorithm>
+#include <array>
+#include <cmath>
 #include <cstdint>
+#include <map>
+#include <numbers>
+#include <optional>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace keydeck {
@@ -102,10 +109,38 @@ std::string ElementLabelPath(const std::vector<int>& classStarts, int position) 
   return "elements/" + std::to_string(k) + "/labels/" + std::to_string(position - classStarts[k]);
 }
 
+// "8", "2 or 3", "21 to 27": the node counts of a type, for messages.
+std::string NodeCounts(const shp_Shape& shape) {
+  const std::string fewest = std::to_string(shape.fewestNodes);
+  if (shape.mostNodes == shape.fewestNodes)
+    return fewest;
+  return fewest + (shape.mostNodes == shape.fewestNodes + 1 ? " or " : " to ") +
+         std::to_string(shape.mostNodes);
+}
+
+// The label indices of a part, built once and shared by its connectivity, its
+// sets and surfaces, and the assembly's sets and surfaces on its instances.
+struct PartLabels {
+  LabelIndex nodes;
+  LabelIndex elements;          // positions over all classes of the part, in class order
+  std::vector<int> classStarts; // the position of each class's first element
+  std::vector<shp_Shape> shapes;
+  std::vector<cow_String> types;
+
+  // The class of the element at `position`. Empty classes share their start
+  // with the next class, so the last class that starts at or before the
+  // position is the one.
+  int ClassOf(int position) const {
+    return static_cast<int>(std::upper_bound(classStarts.begin(), classStarts.end(), position) -
+                            classStarts.begin()) -
+           1;
+  }
+};
+
 class MeshDeriver {
 public:
-  MeshDeriver(std::string_view partPath, ddb_Mesh& mesh, LoadErrors& errors)
-      : path_(partPath), mesh_(mesh), errors_(errors) {}
+  MeshDeriver(std::string_view partPath, ddb_Mesh& mesh, PartLabels& labels, LoadErrors& errors)
+      : path_(partPath), mesh_(mesh), labels_(labels), errors_(errors) {}
 
   void Run() {
     CheckNodeCounts();
@@ -136,10 +171,11 @@ private:
     int lowest = labels.Empty() ? 0 : labels.UncheckedConstGet(0);
     int highest = lowest;
     WidenRange(labels, lowest, highest);
-    nodes_.Reserve(labels.Size(), lowest, highest);
+    LabelIndex& nodes = labels_.nodes;
+    nodes.Reserve(labels.Size(), lowest, highest);
     for (int i = 0; i < labels.Size(); ++i) {
       const int label = labels.UncheckedConstGet(i);
-      const int first = nodes_.Insert(label, i);
+      const int first = nodes.Insert(label, i);
       if (first >= 0) [[unlikely]]
         Error("nodes/labels/" + std::to_string(i), "duplicate node label " + std::to_string(label) +
                                                        ", also at index " + std::to_string(first));
@@ -151,15 +187,17 @@ private:
     int count = 0;
     int lowest = 0;
     int highest = 0;
-    std::vector<int> classStarts;
+    std::vector<int>& classStarts = labels_.classStarts;
     for (const ddb_ElementClass& elementClass : classes) {
       if (count == 0 && !elementClass.labels.Empty())
         lowest = highest = elementClass.labels.UncheckedConstGet(0);
       classStarts.push_back(count);
       count += elementClass.labels.Size();
       WidenRange(elementClass.labels, lowest, highest);
+      labels_.shapes.push_back(elementClass.shape());
+      labels_.types.push_back(elementClass.type);
     }
-    LabelIndex elements;
+    LabelIndex& elements = labels_.elements;
     elements.Reserve(count, lowest, highest);
     for (int k = 0; k < classes.Size(); ++k) {
       const cow_List<int>& labels = classes.UncheckedConstGet(k).labels;
@@ -181,11 +219,16 @@ private:
     if (elementClass.labels.Size() != rows)
       Error("elements/" + std::to_string(k), Count(elementClass.labels.Size(), "element label") +
                                                  " but " + Count(rows, "connectivity row"));
+    const shp_Shape& shape = labels_.shapes[static_cast<std::size_t>(k)];
+    if (shape.nodes > 0 && rows > 0 && (cols < shape.fewestNodes || cols > shape.mostNodes))
+      Error("elements/" + std::to_string(k) + "/connectivity",
+            "type " + std::string(elementClass.type.View()) + " has " + NodeCounts(shape) +
+                " nodes, rows have " + std::to_string(cols));
     const std::size_t count = static_cast<std::size_t>(rows) * static_cast<std::size_t>(cols);
     cow_List<int> indices = cow_List<int>::WithCapacity(static_cast<int>(count));
     const int* const labels = count == 0 ? nullptr : &connectivity.ConstGet(0, 0);
     for (std::size_t i = 0; i < count; ++i) {
-      int index = nodes_.Find(labels[i]);
+      int index = labels_.nodes.Find(labels[i]);
       if (index < 0) [[unlikely]] {
         UnknownNode(k, i, cols, labels[i]);
         index = 0;
@@ -204,9 +247,381 @@ private:
 
   std::string path_;
   ddb_Mesh& mesh_;
+  PartLabels& labels_;
   LoadErrors& errors_;
-  LabelIndex nodes_;
 };
+
+// The members of one set, gathered by mesh and element class: one subset per
+// pair, in the order in which the pairs first appear (or in class order).
+// Labels of one class tend to come together, so the pair of the last member
+// is tried before the table.
+class SubsetCollector {
+public:
+  // Makes the subset of the pair exist, so that a set whose list is empty
+  // still has it.
+  void Open(int meshIndex, int classIndex) { Find(meshIndex, classIndex); }
+  void Add(int meshIndex, int classIndex, int index) {
+    Find(meshIndex, classIndex).indices.push_back(index);
+  }
+  void Add(int meshIndex, int classIndex, int index, int facetId) {
+    Pending& pending = Find(meshIndex, classIndex);
+    pending.indices.push_back(index);
+    pending.facetIds.push_back(facetId);
+  }
+  // The subsets in the order in which their pairs first appeared or, with
+  // `byClass`, in class order.
+  cow_List<rgnC_SubsetData> Take(bool byClass);
+
+private:
+  struct Pending {
+    int meshIndex;
+    int classIndex;
+    std::vector<int> indices;
+    std::vector<int> facetIds;
+  };
+
+  Pending& Find(int meshIndex, int classIndex) {
+    if (last_ < pending_.size() && pending_[last_].meshIndex == meshIndex &&
+        pending_[last_].classIndex == classIndex) [[likely]]
+      return pending_[last_];
+    const std::uint64_t mesh = static_cast<std::uint32_t>(meshIndex);
+    const std::uint64_t key = mesh << 32 | static_cast<std::uint32_t>(classIndex);
+    const auto [at, added] = places_.try_emplace(key, pending_.size());
+    if (added)
+      pending_.push_back({meshIndex, classIndex, {}, {}});
+    last_ = at->second;
+    return pending_[last_];
+  }
+
+  std::vector<Pending> pending_;
+  std::unordered_map<std::uint64_t, std::size_t> places_;
+  std::size_t last_ = 0;
+};
+
+cow_List<int> ListOf(const std::vector<int>& values) {
+  cow_List<int> list;
+  list.SetFromArray(values.data(), static_cast<int>(values.size()));
+  return list;
+}
+
+cow_List<rgnC_SubsetData> SubsetCollector::Take(bool byClass) {
+  if (byClass)
+    std::stable_sort(pending_.begin(), pending_.end(), [](const Pending& a, const Pending& b) {
+      return a.classIndex < b.classIndex;
+    });
+  cow_List<rgnC_SubsetData> subsets =
+      cow_List<rgnC_SubsetData>::WithCapacity(static_cast<int>(pending_.size()));
+  for (const Pending& pending : pending_) {
+    rgnC_SubsetData subset;
+    subset.meshIndex = pending.meshIndex;
+    subset.classIndex = pending.classIndex;
+    subset.indices = ListOf(pending.indices);
+    if (!pending.facetIds.empty())
+      subset.facetIds = ListOf(pending.facetIds);
+    subsets.Append(std::move(subset));
+  }
+  pending_.clear();
+  places_.clear();
+  return subsets;
+}
+
+// Where the labels of a set are looked up: the indices of a part, the mesh
+// index its subsets get, and the words that name the place in messages ("the
+// part", "instance "Link-1"").
+struct LabelScope {
+  const PartLabels* labels;
+  int meshIndex;
+  std::string where;
+};
+
+// Turns the sets and surfaces of a part or of the assembly, as the file gives
+// them, into the set data that the writer reads.
+class SetDeriver {
+public:
+  explicit SetDeriver(LoadErrors& errors) : errors_(errors) {}
+
+  std::optional<ddb_Set> PartSetOf(const cow_String& name, const PartSet& set,
+                                   const LabelScope& scope, const std::string& path) {
+    if (!IsOneOf(set.nodes.has_value(), set.elements.has_value(), "a set", "nodes", "elements",
+                 path))
+      return std::nullopt;
+    SubsetCollector members;
+    ddb_Set out = Named(name, set.internal, set.nodes ? res_NodeSet : res_ElementSet);
+    if (set.nodes) {
+      members.Open(scope.meshIndex, -1);
+      AddNodes(*set.nodes, scope, path + "/nodes", members);
+    } else {
+      AddElements(*set.elements, scope, path + "/elements", members);
+    }
+    out.data.subsets = members.Take(/*byClass=*/true);
+    return out;
+  }
+
+  std::optional<ddb_Set> PartSurfaceOf(const cow_String& name, const PartSurface& surface,
+                                       const LabelScope& scope, const std::string& path) {
+    if (!IsOneOf(surface.faces.has_value(), surface.nodes.has_value(), "a surface", "faces",
+                 "nodes", path))
+      return std::nullopt;
+    SubsetCollector members;
+    ddb_Set out = Named(name, surface.internal, surface.faces ? res_FacetSet : res_NodeSet);
+    if (surface.nodes) {
+      members.Open(scope.meshIndex, -1);
+      AddNodes(*surface.nodes, scope, path + "/nodes", members);
+    } else {
+      for (int i = 0; i < surface.faces->Size(); ++i) {
+        const FaceLabels& entry = surface.faces->UncheckedConstGet(i);
+        AddFaces(entry.face, entry.elements, scope, path + "/faces/" + std::to_string(i), members);
+      }
+    }
+    out.data.subsets = members.Take(/*byClass=*/false);
+    return out;
+  }
+
+  // `scopeOf(instance, path)` gives the scope of an instance of the
+  // assembly, or null (after reporting what is wrong, if anything).
+  template <class ScopeOf>
+  std::optional<ddb_Set> AssemblySetOf(const cow_String& name, const AssemblySet& set,
+                                       ScopeOf&& scopeOf, const std::string& path) {
+    if (!IsOneOf(set.nodes.has_value(), set.elements.has_value(), "a set", "nodes", "elements",
+                 path))
+      return std::nullopt;
+    SubsetCollector members;
+    ddb_Set out = Named(name, set.internal, set.nodes ? res_NodeSet : res_ElementSet);
+    const std::string listPath = path + (set.nodes ? "/nodes/" : "/elements/");
+    const cow_List<InstanceLabels>& entries = set.nodes ? *set.nodes : *set.elements;
+    for (int i = 0; i < entries.Size(); ++i) {
+      const InstanceLabels& entry = entries.UncheckedConstGet(i);
+      const std::string entryPath = listPath + std::to_string(i);
+      const LabelScope* const scope = scopeOf(entry.instance, entryPath + "/instance");
+      if (scope == nullptr)
+        continue;
+      if (set.nodes) {
+        members.Open(scope->meshIndex, -1);
+        AddNodes(entry.labels, *scope, entryPath + "/labels", members);
+      } else {
+        AddElements(entry.labels, *scope, entryPath + "/labels", members);
+      }
+    }
+    out.data.subsets = members.Take(/*byClass=*/false);
+    return out;
+  }
+
+  template <class ScopeOf>
+  std::optional<ddb_Set> AssemblySurfaceOf(const cow_String& name, const AssemblySurface& surface,
+                                           ScopeOf&& scopeOf, const std::string& path) {
+    if (!IsOneOf(surface.faces.has_value(), surface.nodes.has_value(), "a surface", "faces",
+                 "nodes", path))
+      return std::nullopt;
+    SubsetCollector members;
+    ddb_Set out = Named(name, surface.internal, surface.faces ? res_FacetSet : res_NodeSet);
+    if (surface.nodes) {
+      for (int i = 0; i < surface.nodes->Size(); ++i) {
+        const InstanceLabels& entry = surface.nodes->UncheckedConstGet(i);
+        const std::string entryPath = path + "/nodes/" + std::to_string(i);
+        if (const LabelScope* const scope = scopeOf(entry.instance, entryPath + "/instance")) {
+          members.Open(scope->meshIndex, -1);
+          AddNodes(entry.labels, *scope, entryPath + "/labels", members);
+        }
+      }
+    } else {
+      for (int i = 0; i < surface.faces->Size(); ++i) {
+        const InstanceFaceLabels& entry = surface.faces->UncheckedConstGet(i);
+        const std::string entryPath = path + "/faces/" + std::to_string(i);
+        if (const LabelScope* const scope = scopeOf(entry.instance, entryPath + "/instance"))
+          AddFaces(entry.face, entry.elements, *scope, entryPath, members);
+      }
+    }
+    out.data.subsets = members.Take(/*byClass=*/false);
+    return out;
+  }
+
+private:
+  static ddb_Set Named(const cow_String& name, bool internal, res_SetTypeEnm type) {
+    ddb_Set set;
+    set.data.name = name;
+    set.data.internal = internal;
+    set.data.type = type;
+    return set;
+  }
+
+  void Error(const std::string& path, std::string_view what) {
+    if (!errors_.Keeping()) {
+      errors_.Add({}, {});
+      return;
+    }
+    errors_.Add(path, what);
+  }
+
+  // True when exactly one of the two kinds is given.
+  bool IsOneOf(bool first, bool second, std::string_view thing, std::string_view firstKey,
+               std::string_view secondKey, const std::string& path) {
+    if (first != second)
+      return true;
+    const std::string keys = QuotedJson(firstKey) + " or " + QuotedJson(secondKey);
+    Error(path, first ? std::string(thing) + " has " + keys + ", not both"
+                      : std::string(thing) + " needs " + keys);
+    return false;
+  }
+
+  // Calls `found(position, label)` with the position in `index` of each label
+  // of `list`. A label that is not there is reported at its place in the list;
+  // for a range, only the first such label is, at "generate" (a range over
+  // labels that do not exist could be long).
+  template <class F>
+  void Lookup(const LabelList& list, const LabelIndex& index, std::string_view kind,
+              const LabelScope& scope, const std::string& path, F&& found) {
+    int item = 0;
+    list.ForEach([&](int label) {
+      const int position = index.Find(label);
+      if (position >= 0) [[likely]] {
+        found(position, label);
+        ++item;
+        return true;
+      }
+      Missing(list.isRange ? path + "/generate" : path + "/" + std::to_string(item), kind, label,
+              scope);
+      ++item;
+      return !list.isRange;
+    });
+  }
+
+  [[gnu::cold]] void Missing(const std::string& path, std::string_view kind, int label,
+                             const LabelScope& scope) {
+    Error(path, "no " + std::string(kind) + " " + std::to_string(label) + " in " + scope.where);
+  }
+
+  void AddNodes(const LabelList& list, const LabelScope& scope, const std::string& path,
+                SubsetCollector& members) {
+    Lookup(list, scope.labels->nodes, "node", scope, path,
+           [&](int position, int) { members.Add(scope.meshIndex, -1, position); });
+  }
+
+  void AddElements(const LabelList& list, const LabelScope& scope, const std::string& path,
+                   SubsetCollector& members) {
+    const PartLabels& labels = *scope.labels;
+    Lookup(list, labels.elements, "element", scope, path, [&](int position, int) {
+      const int k = labels.ClassOf(position);
+      members.Add(scope.meshIndex, k, position - labels.classStarts[static_cast<std::size_t>(k)]);
+    });
+  }
+
+  // The elements of one face label; a face that does not fit an element's
+  // type is reported once for the entry, at its first such element.
+  void AddFaces(const cow_String& face, const LabelList& list, const LabelScope& scope,
+                const std::string& entryPath, SubsetCollector& members) {
+    const PartLabels& labels = *scope.labels;
+    int lastClass = -1;
+    int facetId = -1;
+    bool reported = false;
+    Lookup(list, labels.elements, "element", scope, entryPath + "/elements",
+           [&](int position, int label) {
+             const int k = labels.ClassOf(position);
+             const std::size_t at = static_cast<std::size_t>(k);
+             if (k != lastClass) {
+               lastClass = k;
+               facetId = FacetIdOfFaceLabel(labels.shapes[at], face);
+             }
+             if (facetId >= 0) [[likely]] {
+               members.Add(scope.meshIndex, k, position - labels.classStarts[at], facetId);
+               return;
+             }
+             if (!reported)
+               Misfit(entryPath + "/face", face, label, labels.types[at], labels.shapes[at]);
+             reported = true;
+           });
+  }
+
+  [[gnu::cold]] void Misfit(const std::string& path, const cow_String& face, int label,
+                            const cow_String& type, const shp_Shape& shape) {
+    const std::string faces = FaceLabelsOf(shape);
+    Error(path, "face " + QuotedJson(face.View()) + " does not fit element " +
+                    std::to_string(label) + " of type " + std::string(type.View()) +
+                    (faces.empty() ? ", whose faces are not known" : " (faces " + faces + ")"));
+  }
+
+  LoadErrors& errors_;
+};
+
+// The set data of a part's or the assembly's sets and surfaces, in one list in
+// ascending byte order of their names. `derive(name, definition, path)` gives
+// the set data of one definition. A surface may not take a set's name, nor
+// either of them the empty name.
+template <class Set, class Surface, class DeriveSet, class DeriveSurface>
+ddb_SetList SetListOf(const cow_Btree<cow_String, Set>& sets,
+                      const cow_Btree<cow_String, Surface>& surfaces, const std::string& ownerPath,
+                      std::string_view owner, DeriveSet&& deriveSet, DeriveSurface&& deriveSurface,
+                      LoadErrors& errors) {
+  std::vector<ddb_Set> list;
+  const auto add = [&](const cow_String& name, const auto& definition, const char* kind,
+                       auto&& derive) {
+    const std::string path = ownerPath + "/" + kind + "s/" + std::string(name.View());
+    if (name.Empty()) {
+      errors.Add(ownerPath + "/" + kind + "s", "a " + std::string(kind) + " needs a name");
+      return;
+    }
+    if (errors.AnyAtOrUnder(path))
+      return;
+    if (std::string_view(kind) == "surface" && sets.IsMember(name)) {
+      errors.Add(path, "a set of the same name exists in " + std::string(owner));
+      return;
+    }
+    if (std::optional<ddb_Set> set = derive(name, definition, path))
+      list.push_back(std::move(*set));
+  };
+  for (const auto& [name, set] : sets)
+    add(name, set, "set", deriveSet);
+  for (const auto& [name, surface] : surfaces)
+    add(name, surface, "surface", deriveSurface);
+  std::sort(list.begin(), list.end(),
+            [](const ddb_Set& a, const ddb_Set& b) { return a.data.name < b.data.name; });
+  ddb_SetList out = ddb_SetList::WithCapacity(static_cast<int>(list.size()));
+  for (ddb_Set& set : list)
+    out.Append(std::move(set));
+  return out;
+}
+
+// The part's set list with `meshIndex` on every subset: the set list of one
+// instance of the part. The index lists are shared, not copied.
+ddb_SetList WithMeshIndex(const ddb_SetList& sets, int meshIndex) {
+  ddb_SetList out = ddb_SetList::WithCapacity(sets.Size());
+  for (ddb_Set set : sets) {
+    cow_List<rgnC_SubsetData> subsets =
+        cow_List<rgnC_SubsetData>::WithCapacity(set.data.subsets.Size());
+    for (rgnC_SubsetData subset : set.data.subsets) {
+      subset.meshIndex = meshIndex;
+      subsets.Append(std::move(subset));
+    }
+    set.data.subsets = std::move(subsets);
+    out.Append(std::move(set));
+  }
+  return out;
+}
+
+// Translation, then the rotation vector: the unit axis times the angle in
+// radians. The axis is scaled by its largest component first, so that no
+// length overflows or vanishes on the way.
+void DerivePlacement(ddb_PartInstance& instance, const std::string& path, LoadErrors& errors) {
+  const std::array<double, 3>& t = instance.translation_;
+  std::array<double, 3> r{0, 0, 0};
+  if (instance.rotation_) {
+    const InstanceRotation& rotation = *instance.rotation_;
+    const double scale = std::max(
+        {std::abs(rotation.axis[0]), std::abs(rotation.axis[1]), std::abs(rotation.axis[2])});
+    if (scale > 0) {
+      const double x = rotation.axis[0] / scale;
+      const double y = rotation.axis[1] / scale;
+      const double z = rotation.axis[2] / scale;
+      const double radians = rotation.angle * (std::numbers::pi / 180);
+      const double factor = radians / std::sqrt(x * x + y * y + z * z);
+      r = {x * factor, y * factor, z * factor};
+    } else if (rotation.angle != 0) {
+      errors.Add(path + "/rotation/axis", "a rotation needs an axis of non-zero length");
+    }
+  }
+  instance.transform_ = cow_List<double>{t[0], t[1], t[2], r[0], r[1], r[2]};
+}
+
+using PartLabelMap = std::map<cow_String, PartLabels>;
 
 void DeriveInstances(std::string_view modelPath, ddb_Model& model, LoadErrors& errors) {
   ddb_InstanceContainer& instances = model.assembly_.instances_;
@@ -223,22 +638,74 @@ void DeriveInstances(std::string_view modelPath, ddb_Model& model, LoadErrors& e
       errors.Add(path + "/part",
                  "no part " + QuotedJson(instance.partName_.View()) + " in the model");
     instance.mesh_.index = ++meshIndex;
+    instance.mesh_.sets = WithMeshIndex(instance.mesh_.sets, meshIndex);
+    DerivePlacement(instance, path, errors);
     instances.Insert(name, instance);
   }
   model.assembly_.mesh_.index = 0;
+}
+
+void DeriveAssemblySets(std::string_view modelPath, ddb_Model& model,
+                        const PartLabelMap& partLabels, LoadErrors& errors) {
+  ddb_Assembly& assembly = model.assembly_;
+  // The scope of each instance whose part was indexed; an instance of a part
+  // with faults of its own gets none, and its labels go unchecked.
+  std::map<cow_String, LabelScope> scopes;
+  for (const auto& [name, handle] : assembly.instances_) {
+    const ddb_PartInstance& instance = RecordCast<ddb_PartInstance>(*handle);
+    const auto part = partLabels.find(instance.partName_);
+    if (part != partLabels.end())
+      scopes.emplace(name, LabelScope{&part->second, instance.mesh_.index,
+                                      "instance " + QuotedJson(name.View())});
+  }
+  const auto scopeOf = [&](const cow_String& instance,
+                           const std::string& path) -> const LabelScope* {
+    const auto at = scopes.find(instance);
+    if (at != scopes.end())
+      return &at->second;
+    if (!assembly.instances_.IsMember(instance))
+      errors.Add(path, "no instance " + QuotedJson(instance.View()));
+    return nullptr;
+  };
+  SetDeriver deriver(errors);
+  assembly.sets_ = SetListOf(
+      assembly.setDefinitions_, assembly.surfaceDefinitions_, std::string(modelPath) + "/assembly",
+      "the assembly",
+      [&](const cow_String& name, const AssemblySet& set, const std::string& path) {
+        return deriver.AssemblySetOf(name, set, scopeOf, path);
+      },
+      [&](const cow_String& name, const AssemblySurface& surface, const std::string& path) {
+        return deriver.AssemblySurfaceOf(name, surface, scopeOf, path);
+      },
+      errors);
 }
 
 } // namespace
 
 void DeriveModel(std::string_view modelPath, ddb_Model& model, LoadErrors& errors) {
   cow_Btree<cow_String, ddb_Part>& parts = model.parts_.parts_;
+  PartLabelMap partLabels;
+  SetDeriver deriver(errors);
   for (const cow_String& name : parts.Keys()) {
     const std::string partPath = std::string(modelPath) + "/parts/" + std::string(name.View());
-    if (errors.AnyAtOrUnder(partPath))
+    if (errors.AnyAtOrUnder(partPath + "/nodes") || errors.AnyAtOrUnder(partPath + "/elements"))
       continue;
-    MeshDeriver(partPath, parts.Get(name).mesh_, errors).Run();
+    ddb_Part& part = parts.Get(name);
+    PartLabels& labels = partLabels[name];
+    MeshDeriver(partPath, part.mesh_, labels, errors).Run();
+    const LabelScope scope{&labels, part.mesh_.index, "the part"};
+    part.mesh_.sets = SetListOf(
+        part.setDefinitions_, part.surfaceDefinitions_, partPath, "the part",
+        [&](const cow_String& setName, const PartSet& set, const std::string& path) {
+          return deriver.PartSetOf(setName, set, scope, path);
+        },
+        [&](const cow_String& surfaceName, const PartSurface& surface, const std::string& path) {
+          return deriver.PartSurfaceOf(surfaceName, surface, scope, path);
+        },
+        errors);
   }
   DeriveInstances(modelPath, model, errors);
+  DeriveAssemblySets(modelPath, model, partLabels, errors);
 }
 
 } // namespace keydeck

@@ -14,13 +14,25 @@ namespace keydeck {
 ///
 /// - Each part: node labels and coordinates of equal count, node labels
 ///   unique, element labels unique across the part's element classes, each
-///   class with as many labels as connectivity rows, every connectivity label
-///   a node of the part; then each class's `nodeIndices`, row by row. A part
-///   under which `errors` already holds a problem is left alone, so that one
-///   fault is not reported again in other words.
+///   class with as many labels as connectivity rows, rows as long as the
+///   type's node count (for the types the element table knows), every
+///   connectivity label a node of the part; then each class's `nodeIndices`,
+///   row by row. A part whose nodes or elements already have a problem in
+///   `errors` is left alone, so that one fault is not reported again in other
+///   words.
+/// - Each part's sets and surfaces: the mesh's `sets`, in ascending byte
+///   order of their names. A node set (or node-based surface) has one subset;
+///   an element set one per class touched, in class order; a face-based
+///   surface one per class in order of first appearance, with its facet ids.
+///   Every label must be one of the part, every face label fit its element's
+///   type. The labels are found through the same index as the connectivity.
 /// - Each instance: its name from its key; its mesh, the part's (shared, not
 ///   copied) under mesh index 1, 2, ... in ascending order of the instance
-///   names; its part must exist. The assembly's own mesh has index 0.
+///   names, with the part's sets stamped with that index; its part must
+///   exist; its `transform_` from its translation and rotation.
+/// - The assembly's sets and surfaces: `sets_`, one subset per instance mesh
+///   and class in order of first appearance. The assembly's own mesh has
+///   index 0.
 void DeriveModel(std::string_view modelPath, ddb_Model& model, LoadErrors& errors);
 
 } // namespace keydeck

@@ -3,8 +3,11 @@
 #include "model/json/fields.h"
 #include "model/json/json_text.h"
 
+#include <array>
 #include <bit>
+#include <cassert>
 #include <cstdint>
+#include <optional>
 #include <type_traits>
 
 namespace keydeck {
@@ -12,13 +15,25 @@ namespace keydeck {
 namespace {
 
 // True when a field may be left out: it holds its default. A record is always
-// written; a container is left out when it and its default are empty.
+// written; a container is left out when it and its default are empty; an
+// optional value when it is absent.
 template <class M, class D> bool IsDefault(const M& member, const D& value) {
   if constexpr (FieldRecord<M>) {
     return false;
+  } else if constexpr (IsOptional<M>) {
+    return !member.has_value();
+  } else if constexpr (requires { member.Size(); } && std::is_same_v<M, D>) {
+    // Compared in place: a copy of a container with an optional inside trips
+    // a false "maybe uninitialized" warning of the compiler.
+    return member.Size() == 0 && value.Size() == 0;
   } else {
     const M fallback = value;
-    if constexpr (requires { member.Size(); })
+    if constexpr (IsArray<M>) {
+      for (std::size_t i = 0; i < member.size(); ++i)
+        if (!IsDefault(member[i], fallback[i]))
+          return false;
+      return true;
+    } else if constexpr (requires { member.Size(); })
       return member.Size() == 0 && fallback.Size() == 0;
     else if constexpr (std::is_floating_point_v<M>)
       return std::bit_cast<std::uint64_t>(member) == std::bit_cast<std::uint64_t>(fallback);
@@ -49,6 +64,25 @@ public:
       out_.CloseArray();
     }
     out_.CloseArray();
+  }
+
+  template <class T, std::size_t N> void Write(const std::array<T, N>& values) {
+    out_.OpenArray(/*oneLine=*/true);
+    for (const T& value : values)
+      Write(value);
+    out_.CloseArray();
+  }
+
+  template <class T> void Write(const std::optional<T>& value) {
+    assert(value.has_value() && "an absent optional field is left out");
+    Write(*value);
+  }
+
+  void Write(const LabelList& list) {
+    if (list.isRange)
+      Write(list.range);
+    else
+      Write(list.labels);
   }
 
   void Write(const cow_2DArray<int>& rows) {

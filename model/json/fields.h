@@ -6,6 +6,9 @@
 #include "model/records.h"
 #include "model/steps.h"
 
+#include <array>
+#include <cstddef>
+#include <optional>
 #include <string_view>
 #include <type_traits>
 
@@ -76,6 +79,15 @@ struct ModelFile {
     v("models", models);
   }
 };
+
+/// True for a field that the file may leave out without a default: absent
+/// means "the file does not say", as for the two kinds of a set.
+template <class T> constexpr bool IsOptional = false;
+template <class T> constexpr bool IsOptional<std::optional<T>> = true;
+
+/// True for a field of a fixed number of values, such as a translation.
+template <class T> constexpr bool IsArray = false;
+template <class T, std::size_t N> constexpr bool IsArray<std::array<T, N>> = true;
 
 /// True for a value that stands for "not given": such a default is not
 /// printed, since the file says it by leaving the field out.

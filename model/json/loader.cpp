@@ -8,6 +8,7 @@
 #include <simdjson.h>
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cassert>
 #include <cctype>
@@ -19,6 +20,7 @@
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <system_error>
 #include <type_traits>
@@ -64,16 +66,10 @@ constexpr PendingFamily PendingFamilies[] = {
     {Holder::Model, "connectorSections", "connector sections"},
     {Holder::Model, "datums", "datums"},
     {Holder::Model, "orientations", "orientations"},
-    {Holder::Part, "sets", "part sets"},
-    {Holder::Part, "surfaces", "part surfaces"},
     {Holder::Part, "sectionAssignments", "section assignments"},
-    {Holder::Assembly, "sets", "assembly sets"},
-    {Holder::Assembly, "surfaces", "assembly surfaces"},
     {Holder::Assembly, "nodes", "assembly nodes"},
     {Holder::Assembly, "elements", "assembly elements"},
     {Holder::Assembly, "connectors", "connectors"},
-    {Holder::Instance, "translation", "instance translations"},
-    {Holder::Instance, "rotation", "instance rotations"},
 };
 
 const PendingFamily* FindPendingFamily(Holder holder, std::string_view key) {
@@ -382,6 +378,13 @@ private:
   void Read(od::value value, cow_List<int>& out);
   void Read(od::value value, uti_CoordCont3D& out);
   void Read(od::value value, cow_2DArray<int>& out);
+  template <class T, std::size_t N> void Read(od::value value, std::array<T, N>& out);
+  template <class T> void Read(od::value value, std::optional<T>& out) {
+    out.emplace();
+    Read(value, *out);
+  }
+  void Read(od::value value, LabelList& out);
+  void CheckRange(const LabelRange& range);
   template <FieldRecord R> void Read(od::value value, cow_List<R>& out);
   template <FieldRecord R> void Read(od::value value, cow_Btree<cow_String, R>& out);
   template <class Base> void Read(od::value value, mdl_MapString2ObjCow<Base>& out);
@@ -727,6 +730,12 @@ void Reader::Read(od::value value, cow_2DArray<int>& out) {
   int* cells = nullptr;
   std::size_t width = 0;
   ForEachItem(rows, [&](od::value item, std::size_t row) {
+    // In a broken text the walk may find more rows than the count said; the
+    // syntax check at the end then says where the text breaks.
+    if (row >= static_cast<std::size_t>(rowCount)) {
+      Fail(simdjson::TAPE_ERROR);
+      return;
+    }
     od::array labels;
     if (!GetArray(item, labels, row))
       return;
@@ -759,6 +768,55 @@ void Reader::Read(od::value value, cow_2DArray<int>& out) {
                   std::to_string(width),
               row);
   });
+}
+
+template <class T, std::size_t N> void Reader::Read(od::value value, std::array<T, N>& out) {
+  od::array items;
+  if (!GetArray(value, items))
+    return;
+  std::size_t found = 0;
+  ForEachItem(items, [&](od::value item, std::size_t index) {
+    if (index < N) {
+      PathScope scope(*this, index);
+      Read(item, out[index]);
+    }
+    found = index + 1;
+  });
+  if (found != N && !Stopped())
+    Error("expected " + std::to_string(N) + (std::is_integral_v<T> ? " integers" : " numbers") +
+          ", found " + std::to_string(found));
+}
+
+// A list of labels is an array, or an object that gives a range.
+void Reader::Read(od::value value, LabelList& out) {
+  od::json_type type{};
+  if (const simdjson::error_code error = value.type().get(type)) {
+    Fail(error);
+    return;
+  }
+  if (type == od::json_type::array) {
+    Read(value, out.labels);
+    return;
+  }
+  if (type != od::json_type::object) {
+    Error(R"(expected an array of labels or {"generate": [first, last, step]}, found )" +
+          Described(value.type()));
+    return;
+  }
+  out.isRange = true;
+  const int before = errors_.Count();
+  Read(value, out.range);
+  if (errors_.Count() == before)
+    CheckRange(out.range);
+}
+
+void Reader::CheckRange(const LabelRange& range) {
+  PathScope scope(*this, "generate");
+  if (range.Step() < 1)
+    ErrorAt("the step must be 1 or more, found " + std::to_string(range.Step()), 2);
+  if (range.First() > range.Last())
+    Error("the first label " + std::to_string(range.First()) + " lies beyond the last " +
+          std::to_string(range.Last()));
 }
 
 template <FieldRecord R> void Reader::Read(od::value value, cow_List<R>& out) {

@@ -3,8 +3,10 @@
 #include "model/json/fields.h"
 #include "model/json/json_text.h"
 
+#include <array>
 #include <cassert>
 #include <climits>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -51,6 +53,20 @@ public:
     out_.CloseArray();
   }
   void Body(const cow_List<int>&) { ArrayOf(0, /*minItems=*/-1, /*maxItems=*/-1); }
+  template <class T, std::size_t N> void Body(const std::array<T, N>&) {
+    ArrayOf(T(), static_cast<int>(N), static_cast<int>(N));
+  }
+  template <class T> void Body(const std::optional<T>&) {
+    T value{};
+    Body(value);
+  }
+  void Body(const LabelList&) {
+    out_.Key("oneOf");
+    out_.OpenArray(/*oneLine=*/false);
+    Schema(cow_List<int>());
+    Schema(LabelRange());
+    out_.CloseArray();
+  }
   void Body(const uti_CoordCont3D&) {
     Type("array");
     out_.Key("items");
@@ -159,8 +175,14 @@ private:
   // with its fields' defaults, which the fields' schemas say already; a
   // not-given mark is said by leaving the field out, so neither has one here.
   template <class M> void Default(const M& value) {
-    if constexpr (FieldRecord<M>) {
+    if constexpr (FieldRecord<M> || IsOptional<M>) {
       return;
+    } else if constexpr (IsArray<M>) {
+      out_.Key("default");
+      out_.OpenArray(/*oneLine=*/true);
+      for (const auto& item : value)
+        WriteScalar(out_, item);
+      out_.CloseArray();
     } else if constexpr (ScalarField<M>) {
       if (IsNotGivenMark(value))
         return;

@@ -20,7 +20,8 @@ odb_Odb Load(const std::string& json) {
 }
 
 // A model with something in every field the file has so far: two parts, two
-// instances of one part, steps with load cases, raw text at every level.
+// instances of one part, sets and surfaces of every kind, placements, steps
+// with load cases, raw text at every level.
 const char* const FullModel = R"({"format": "keydeck-model", "version": 1, "models": {
   "Default Model": {
     "topLevelSolverInput": "** generated\n",
@@ -35,11 +36,25 @@ const char* const FullModel = R"({"format": "keydeck-model", "version": 1, "mode
                                   [0.1, 0.1, -0], [0.2, 0.1, 3.4028234e38]]},
         "elements": [{"type": "S4R", "labels": [1], "connectivity": [[1, 2, 5, 4]]},
                      {"type": "S3", "labels": [2, 3], "connectivity": [[2, 3, 6], [2, 6, 5]]}],
+        "sets": {"Edge": {"nodes": {"generate": [1, 3, 1]}},
+                 "All": {"elements": [3, 1, 2], "internal": true}},
+        "surfaces": {"Top": {"faces": [{"face": "SPOS", "elements": [1]},
+                                       {"face": "SNEG", "elements": {"generate": [2, 3, 1]}}]},
+                     "Corner": {"nodes": [6], "internal": true}},
         "solverInput": "*Part text \"quoted\"\twith tab"},
       "Empty": {}},
     "assembly": {"name": "Assembly-A", "solverInput": "*assembly text",
-                 "instances": {"Plate-2": {"part": "Plate", "solverInput": "*instance text"},
-                               "Plate-1": {"part": "Plate"}}},
+                 "instances": {"Plate-2": {"part": "Plate", "solverInput": "*instance text",
+                                           "translation": [0.1, -0, 2e-300],
+                                           "rotation": {"axis": [1, 1, 0], "angle": 33.3}},
+                               "Plate-1": {"part": "Plate", "rotation": {"axis": [0, 0, 0], "angle": 0}}},
+                 "sets": {"Pair": {"nodes": [{"instance": "Plate-2", "labels": [1]},
+                                             {"instance": "Plate-1", "labels": {"generate": [4, 6, 2]}}]},
+                          "Shells": {"elements": [{"instance": "Plate-1", "labels": [1]}], "internal": true}},
+                 "surfaces": {"Both": {"faces": [{"instance": "Plate-1", "face": "SPOS", "elements": [2]},
+                                                 {"instance": "Plate-2", "face": "SNEG", "elements": [1]}],
+                                       "internal": true},
+                              "Points": {"nodes": [{"instance": "Plate-2", "labels": [5]}]}}},
     "steps": [{"name": "Initial", "solverInput": "*initial text"},
               {"name": "Load", "procedure": "staticRiks", "solverInput": "*step text",
                "loadCases": {"LC-2": {}, "LC-1": {}}},
@@ -65,6 +80,12 @@ TEST(Dumper, DumpAndLoadIsAFixedPoint) {
                 .elementConnectivity(),
             (cow_List<int>{1, 2, 5, 1, 5, 4}));
   EXPECT_TRUE(reloaded.ddb().models_.IsMember("Other"));
+  EXPECT_EQ(model.part().get("Plate").mesh().set().Size(), 4);
+  EXPECT_EQ(model.rootAssembly().set().Size(), 4);
+  // Ranges stay ranges, and placements stay as written.
+  EXPECT_NE(first.find(R"("generate": [4, 6, 2])"), std::string::npos);
+  EXPECT_NE(first.find(R"("translation": [0.1, -0, 2e-300])"), std::string::npos);
+  EXPECT_NE(first.find(R"("angle": 33.3)"), std::string::npos);
 }
 
 TEST(Dumper, LeavesDefaultsOutAndKeepsItsLayout) {

@@ -31,6 +31,8 @@ public:
         CheckType(std::string_view(argument), value, path);
       else if (keyword == "enum")
         CheckEnum(dom::array(argument), value, path);
+      else if (keyword == "oneOf")
+        CheckOneOf(dom::array(argument), value, path);
       else if (keyword == "minimum" && IsNumber(value) && Number(value) < Number(argument))
         problems.push_back(path + ": below the minimum");
       else if (keyword == "maximum" && IsNumber(value) && Number(value) > Number(argument))
@@ -81,6 +83,17 @@ private:
         return;
     }
     problems.push_back(path + ": not one of the enumerated values");
+  }
+
+  void CheckOneOf(dom::array schemas, dom::element value, const std::string& path) {
+    int matches = 0;
+    for (const dom::element schema : schemas) {
+      Validator alone;
+      alone.Check(schema, value, path);
+      matches += alone.problems.empty() ? 1 : 0;
+    }
+    if (matches != 1)
+      problems.push_back(path + ": matches " + std::to_string(matches) + " of the oneOf schemas");
   }
 
   void CheckRequired(dom::array names, dom::object object, const std::string& path) {
@@ -274,8 +287,20 @@ TEST_F(Schema, RefusesWhatTheLoaderRefuses) {
        "/format: not one of the enumerated values"},
       {replaced(R"({"LC": {}})", R"({"LC": {"x": 1}})"),
        "/models/Default Model/steps/1/loadCases/LC: unknown member x"},
-      {replaced(R"("part": "Beam")", R"("part": "Beam", "translation": [1, 0, 0])"),
-       "/models/Default Model/assembly/instances/Beam-1: unknown member translation"},
+      {replaced(R"("part": "Beam")", R"("part": "Beam", "scale": 2)"),
+       "/models/Default Model/assembly/instances/Beam-1: unknown member scale"},
+      {replaced(R"("part": "Beam")", R"("part": "Beam", "rotation": {"axis": [0, 0, 1]})"),
+       "/models/Default Model/assembly/instances/Beam-1/rotation: lacks angle"},
+      {replaced(R"("part": "Beam")", R"("part": "Beam", "translation": [1, 0])"),
+       "/models/Default Model/assembly/instances/Beam-1/translation: too few items"},
+      {replaced(R"("solverInput": "*part")", R"("sets": {"S": {"nodes": "all"}})"),
+       "/models/Default Model/parts/Beam/sets/S/nodes: matches 0 of the oneOf schemas"},
+      {replaced(R"("solverInput": "*part")", R"("sets": {"S": {"nodes": {"generate": [1, 3]}}})"),
+       "/models/Default Model/parts/Beam/sets/S/nodes: matches 0 of the oneOf schemas"},
+      {replaced(
+           R"("solverInput": "*part")",
+           R"("surfaces": {"S": {"faces": [{"face": "END1", "elements": [1], "labels": [1]}]}})"),
+       "/models/Default Model/parts/Beam/surfaces/S/faces/0: unknown member labels"},
       {replaced(R"("format": "keydeck-model", )", ""), ": lacks format"},
   };
   for (const auto& [json, problem] : cases) {
