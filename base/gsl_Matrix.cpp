@@ -22,7 +22,7 @@ void gsl_Matrix::AxisRotation(const gsl_Point& point, const gsl_Vector& axis, do
 }
 
 void gsl_Matrix::GetAxisRotation(gsl_Point& point, gsl_Vector& axis, double& angle) const {
-  const double (&r)[3][3] = rotation_;
+  const double(&r)[3][3] = rotation_;
   point = gsl_Point{};
   const double cosine = std::clamp((r[0][0] + r[1][1] + r[2][2] - 1) / 2, -1.0, 1.0);
   const gsl_Vector skew{r[2][1] - r[1][2], r[0][2] - r[2][0], r[1][0] - r[0][1]};

@@ -37,14 +37,14 @@ private:
 /// The status of a step-dependent record (condition, load, field,
 /// interaction, output request) in one step.
 enum mdl_PropagationStatusEnm : int {
-  PropNotInForce = 0,      ///< not yet created, or deactivated earlier
-  PropCreated = 1,         ///< created in this step
-  PropPropagated = 2,      ///< unchanged from the step before
-  PropModified = 3,        ///< changed in this step
-  PropDeactivated = 4,     ///< deactivated in this step
-  PropBuiltIn = 8,         ///< in force by definition of the model
-  PropPropagatedBase = 9,  ///< like PropPropagated, in the base state of a perturbation
-  PropModifiedBase = 10,   ///< like PropModified, in the base state of a perturbation
+  PropNotInForce = 0,       ///< not yet created, or deactivated earlier
+  PropCreated = 1,          ///< created in this step
+  PropPropagated = 2,       ///< unchanged from the step before
+  PropModified = 3,         ///< changed in this step
+  PropDeactivated = 4,      ///< deactivated in this step
+  PropBuiltIn = 8,          ///< in force by definition of the model
+  PropPropagatedBase = 9,   ///< like PropPropagated, in the base state of a perturbation
+  PropModifiedBase = 10,    ///< like PropModified, in the base state of a perturbation
   PropDeactivatedBase = 11, ///< like PropDeactivated, in the base state of a perturbation
-  PropFieldReset = 15,     ///< fields only: forces a restart of the field's class
+  PropFieldReset = 15,      ///< fields only: forces a restart of the field's class
 };

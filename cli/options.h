@@ -11,7 +11,7 @@ struct Options {
   enum class Command { Write, Check, Schema, Help, Version };
   Command command = Command::Help;
   std::string modelFile;
-  std::string job;                      ///< default: the model file's stem
+  std::string job; ///< default: the model file's stem
   std::string modelName = "Default Model";
   std::string outputDir = ".";
   bool verbose = false;

@@ -23,6 +23,57 @@ int kmaC_Elastic::DataColumns(TypeEnm type) {
   return 0;
 }
 
+keydeck::TableColumns kmaC_Plastic::ExpectedColumns() const {
+  // The rate path writes the strain rate in the header, whatever the hardening.
+  if (rate)
+    return keydeck::DependentColumns(3, temperatureDependency, dependencies);
+  switch (hardening) {
+  case IsotropicHardening:
+  case Kinematic:
+  case Mixed:
+    return keydeck::DependentColumns(2, temperatureDependency, dependencies);
+  case JohnsonCookHardening:
+    return keydeck::DependentColumns(6, temperatureDependency, dependencies);
+  case User:
+    // Only the first column is written, one property per row.
+    return {.data = 1, .moreData = true};
+  case Combined:
+    break;
+  }
+  switch (dataType) {
+  case Parameters:
+    return keydeck::DependentColumns(1 + 2 * std::max(numBackstress, 0), temperatureDependency,
+                                     dependencies);
+  case Stabilized:
+    return keydeck::DependentColumns(strainRangeDependency ? 3 : 2, temperatureDependency,
+                                     dependencies);
+  case NoDataType:
+  case HalfCycle:
+    break;
+  }
+  return keydeck::DependentColumns(2, temperatureDependency, dependencies);
+}
+
+keydeck::TableColumns kmaC_Creep::ExpectedColumns() const {
+  switch (law) {
+  case Time:
+  case Strain:
+    return keydeck::DependentColumns(3, temperatureDependency, dependencies);
+  case Hyperbolic:
+    return keydeck::DependentColumns(5, temperatureDependency, dependencies);
+  case UserLaw:
+  case Anand:
+  case PowerLaw:
+  case TimePowerLaw:
+  case DoublePowerLaw:
+    break;
+  }
+  return {.data = 1,
+          .moreData = true,
+          .temperature = temperatureDependency,
+          .fieldVariables = dependencies};
+}
+
 void kmaC_MaterialTable::Sort(int column) {
   const int rows = Rows();
   const int columns = Cols();

@@ -29,6 +29,34 @@ private:
   cow_2DArray<double> values_;
 };
 
+namespace keydeck {
+
+/// The columns that the table of a behaviour has, left to right: its data
+/// columns, a temperature column, one column per field variable. A record
+/// that knows them says so through `TableColumns ExpectedColumns() const`,
+/// and the loader checks its table against them.
+struct TableColumns {
+  int data = 0;                     ///< the data columns; the fewest of them with `moreData`
+  bool moreData = false;            ///< any number of data columns from `data` up will do
+  bool temperature = false;         ///< a temperature column follows the data
+  bool optionalTemperature = false; ///< a temperature column may follow the data
+  int fieldVariables = 0;           ///< the field-variable columns at the end
+
+  /// The columns of a table that has just what is required.
+  int Fewest() const { return data + (temperature ? 1 : 0) + fieldVariables; }
+  bool Fits(int columns) const {
+    return columns == Fewest() || (moreData && columns > Fewest()) ||
+           (optionalTemperature && columns == Fewest() + 1);
+  }
+};
+
+/// The columns of a table that may depend on temperature and field variables.
+constexpr TableColumns DependentColumns(int data, bool temperatureDependency, int dependencies) {
+  return {.data = data, .temperature = temperatureDependency, .fieldVariables = dependencies};
+}
+
+} // namespace keydeck
+
 /// The three fields of every table that may depend on temperature and field
 /// variables, named once.
 template <class V>
@@ -39,20 +67,13 @@ void DependentTableFields(V& v, bool& temperatureDependency, int& dependencies,
   v("table", table);
 }
 
-/// The columns a dependent table must have: its data columns, the
-/// temperature column if any, the field-variable columns.
-inline int DependentTableColumns(int dataColumns, bool temperatureDependency, int dependencies) {
-  return dataColumns + (temperatureDependency ? 1 : 0) + dependencies;
-}
-
 /// A behaviour whose table depends on temperature and field variables and
 /// has no parameters of its own ("*Density", "*Specific Heat", ...). The tag
 /// names the behaviour and says how many data columns it has.
 template <class Tag> class kmaC_DependentTable {
 public:
-  static constexpr int DataColumns() { return Tag::DataColumns; }
-  int ExpectedColumns() const {
-    return DependentTableColumns(Tag::DataColumns, temperatureDependency, dependencies);
+  keydeck::TableColumns ExpectedColumns() const {
+    return keydeck::DependentColumns(Tag::DataColumns, temperatureDependency, dependencies);
   }
   template <class V> void Fields(V& v) {
     DependentTableFields(v, temperatureDependency, dependencies, table);
@@ -63,29 +84,35 @@ public:
   kmaC_MaterialTable table;
 };
 
-/// A behaviour given by a plain table and nothing else ("*Gel", ...).
+/// A behaviour given by a plain table and nothing else ("*Gel", ...). The tag
+/// says what columns the table has.
 template <class Tag> class kmaC_PlainTable {
 public:
-  /// 0 when the table may have any number of columns.
-  int ExpectedColumns() const { return Tag::DataColumns; }
+  keydeck::TableColumns ExpectedColumns() const { return Tag::Columns; }
   template <class V> void Fields(V& v) { v("table", table); }
 
   kmaC_MaterialTable table;
 };
 
 namespace keydeck::MaterialTags {
-// Data columns of each behaviour with a table and no parameters; 0 means any.
+// Data columns of each behaviour with a dependent table and no parameters.
 struct Density { static constexpr int DataColumns = 1; };
 struct SpecificHeat { static constexpr int DataColumns = 1; };
 struct Solubility { static constexpr int DataColumns = 1; };
 struct Potential { static constexpr int DataColumns = 6; };
 struct FailStress { static constexpr int DataColumns = 7; };
 struct FailStrain { static constexpr int DataColumns = 5; };
-struct LatentHeat { static constexpr int DataColumns = 3; };
-struct Gel { static constexpr int DataColumns = 4; };
-struct DeformationPlasticity { static constexpr int DataColumns = 5; };
-struct PorousBulkModuli { static constexpr int DataColumns = 2; };
-struct CycledPlastic { static constexpr int DataColumns = 0; };
+// Columns of each behaviour with a plain table. Deformation plasticity and
+// porous bulk moduli may add a temperature column without saying so.
+struct LatentHeat { static constexpr TableColumns Columns{.data = 3}; };
+struct Gel { static constexpr TableColumns Columns{.data = 4}; };
+struct DeformationPlasticity {
+  static constexpr TableColumns Columns{.data = 5, .optionalTemperature = true};
+};
+struct PorousBulkModuli {
+  static constexpr TableColumns Columns{.data = 2, .optionalTemperature = true};
+};
+struct CycledPlastic { static constexpr TableColumns Columns{.data = 1, .moreData = true}; };
 } // namespace keydeck::MaterialTags
 
 using kmaC_Density = kmaC_DependentTable<keydeck::MaterialTags::Density>;
@@ -114,8 +141,8 @@ public:
   };
   /// The data columns of each type of elasticity.
   static int DataColumns(TypeEnm type);
-  int ExpectedColumns() const {
-    return DependentTableColumns(DataColumns(type), temperatureDependency, dependencies);
+  keydeck::TableColumns ExpectedColumns() const {
+    return keydeck::DependentColumns(DataColumns(type), temperatureDependency, dependencies);
   }
 
   template <class V> void Fields(V& v) {
@@ -139,6 +166,19 @@ public:
   std::optional<kmaC_FailStrain> failStrain;
 };
 
+template <> struct keydeck::EnumTable<kmaC_Elastic::TypeEnm> {
+  static constexpr std::string_view Noun = "elastic type";
+  static constexpr EnumEntry<kmaC_Elastic::TypeEnm> Entries[] = {
+      {kmaC_Elastic::Isotropic, "ISOTROPIC", "isotropic"},
+      {kmaC_Elastic::Orthotropic, "ORTHOTROPIC", "orthotropic"},
+      {kmaC_Elastic::Anisotropic, "ANISOTROPIC", "anisotropic"},
+      {kmaC_Elastic::EngineeringConstants, "ENGINEERING CONSTANTS", "engineeringConstants"},
+      {kmaC_Elastic::Lamina, "LAMINA", "lamina"},
+      {kmaC_Elastic::Traction, "TRACTION", "traction"},
+      {kmaC_Elastic::CoupledTraction, "COUPLED TRACTION", "coupledTraction"},
+  };
+};
+
 /// "*Ornl": the constitutive model of the ORNL rules, a companion of
 /// "*Plastic" and "*Creep".
 class kmaC_Ornl {
@@ -158,10 +198,14 @@ public:
   bool reset = resetDef;
 };
 
-/// "*Rate Dependent": rate dependence of the yield stress.
+/// "*Rate Dependent": rate dependence of the yield stress. Each type has two
+/// data columns (a factor and a rate or an exponent).
 class kmaC_RateDependent {
 public:
   enum TypeEnm : int { Power = 0, YieldRatio = 1, JohnsonCook = 2 };
+  keydeck::TableColumns ExpectedColumns() const {
+    return keydeck::DependentColumns(2, temperatureDependency, dependencies);
+  }
   template <class V> void Fields(V& v) {
     v("type", type, Power);
     DependentTableFields(v, temperatureDependency, dependencies, table);
@@ -173,9 +217,23 @@ public:
   kmaC_MaterialTable table;
 };
 
-/// "*Cyclic Hardening": the isotropic part of combined hardening.
+// The power law is the solver's default and is never named in the deck.
+template <> struct keydeck::EnumTable<kmaC_RateDependent::TypeEnm> {
+  static constexpr std::string_view Noun = "rate dependence type";
+  static constexpr EnumEntry<kmaC_RateDependent::TypeEnm> Entries[] = {
+      {kmaC_RateDependent::Power, "", "power"},
+      {kmaC_RateDependent::YieldRatio, "YIELD RATIO", "yieldRatio"},
+      {kmaC_RateDependent::JohnsonCook, "JOHNSON COOK", "johnsonCook"},
+  };
+};
+
+/// "*Cyclic Hardening": the isotropic part of combined hardening, as a table
+/// of stress against plastic strain, or as three parameters.
 class kmaC_CyclicHardening {
 public:
+  keydeck::TableColumns ExpectedColumns() const {
+    return keydeck::DependentColumns(parameters ? 3 : 2, temperatureDependency, dependencies);
+  }
   template <class V> void Fields(V& v) {
     DependentTableFields(v, temperatureDependency, dependencies, table);
     v("parameters", parameters, false);
@@ -190,6 +248,9 @@ public:
 /// "*Anneal Temperature": the temperature above which the material anneals.
 class kmaC_AnnealTemperature {
 public:
+  keydeck::TableColumns ExpectedColumns() const {
+    return keydeck::DependentColumns(1, /*temperatureDependency=*/false, dependencies);
+  }
   template <class V> void Fields(V& v) {
     v("dependencies", dependencies, 0);
     v("table", table);
@@ -212,9 +273,15 @@ public:
   };
   enum DataTypeEnm : int { NoDataType = 0, HalfCycle = 1, Stabilized = 2, Parameters = 3 };
 
+  /// Yield stress and plastic strain, and the strain rate with `rate`; the
+  /// six Johnson-Cook constants; for combined hardening the stabilized strain
+  /// range where it counts, or the yield stress and two constants per
+  /// backstress; the properties of user hardening in the first column.
+  keydeck::TableColumns ExpectedColumns() const;
+
   template <class V> void Fields(V& v) {
     v("hardening", hardening, IsotropicHardening);
-    v("rate", rate, false);
+    v("rateColumn", rate, false);
     v("dataType", dataType, NoDataType);
     v("strainRangeDependency", strainRangeDependency, false);
     v("numBackstress", numBackstress, 1);
@@ -243,6 +310,29 @@ public:
   std::optional<kmaC_AnnealTemperature> annealTemperature;
 };
 
+template <> struct keydeck::EnumTable<kmaC_Plastic::HardeningEnm> {
+  static constexpr std::string_view Noun = "hardening";
+  static constexpr EnumEntry<kmaC_Plastic::HardeningEnm> Entries[] = {
+      {kmaC_Plastic::IsotropicHardening, "ISOTROPIC", "isotropic"},
+      {kmaC_Plastic::Kinematic, "KINEMATIC", "kinematic"},
+      {kmaC_Plastic::Mixed, "MIXED", "mixed"},
+      {kmaC_Plastic::Combined, "COMBINED", "combined"},
+      {kmaC_Plastic::JohnsonCookHardening, "JOHNSON COOK", "johnsonCook"},
+      {kmaC_Plastic::User, "USER", "user"},
+  };
+};
+
+// No data type leaves the parameter off the card: it has no deck text.
+template <> struct keydeck::EnumTable<kmaC_Plastic::DataTypeEnm> {
+  static constexpr std::string_view Noun = "data type";
+  static constexpr EnumEntry<kmaC_Plastic::DataTypeEnm> Entries[] = {
+      {kmaC_Plastic::NoDataType, "", "none"},
+      {kmaC_Plastic::HalfCycle, "HALF CYCLE", "halfCycle"},
+      {kmaC_Plastic::Stabilized, "STABILIZED", "stabilized"},
+      {kmaC_Plastic::Parameters, "PARAMETERS", "parameters"},
+  };
+};
+
 /// "*Creep": the creep law and its table.
 class kmaC_Creep {
 public:
@@ -256,6 +346,10 @@ public:
     TimePowerLaw = 6,
     DoublePowerLaw = 7,
   };
+
+  /// Three constants for time and strain hardening, five for the
+  /// hyperbolic-sine law; the other laws are not checked beyond one column.
+  keydeck::TableColumns ExpectedColumns() const;
 
   template <class V> void Fields(V& v) {
     v("law", law, Strain);
@@ -272,10 +366,35 @@ public:
   std::optional<kmaC_Potential> potential;
 };
 
+// The card spells the hyperbolic-sine law in short; the table keeps the
+// law's full name.
+template <> struct keydeck::EnumTable<kmaC_Creep::LawEnm> {
+  static constexpr std::string_view Noun = "creep law";
+  static constexpr EnumEntry<kmaC_Creep::LawEnm> Entries[] = {
+      {kmaC_Creep::Time, "TIME", "time"},
+      {kmaC_Creep::Strain, "STRAIN", "strain"},
+      {kmaC_Creep::UserLaw, "USER", "user"},
+      {kmaC_Creep::Anand, "ANAND", "anand"},
+      {kmaC_Creep::Hyperbolic, "HYPERBOLIC", "hyperbolic"},
+      {kmaC_Creep::PowerLaw, "POWER LAW", "powerLaw"},
+      {kmaC_Creep::TimePowerLaw, "TIME POWER LAW", "timePowerLaw"},
+      {kmaC_Creep::DoublePowerLaw, "DOUBLE POWER", "doublePowerLaw"},
+  };
+};
+
 /// "*Viscous": the viscous part of a two-layer viscoplastic model.
 class kmaC_Viscous {
 public:
   enum LawEnm : int { StrainLaw = 1, TimeLaw = 2, UserViscousLaw = 3 };
+
+  /// Four constants for time and strain hardening; a user law is not checked
+  /// beyond one column.
+  keydeck::TableColumns ExpectedColumns() const {
+    if (law == UserViscousLaw)
+      return {.data = 1, .moreData = true, .temperature = temperatureDependency,
+              .fieldVariables = dependencies};
+    return keydeck::DependentColumns(4, temperatureDependency, dependencies);
+  }
 
   template <class V> void Fields(V& v) {
     v("law", law, StrainLaw);
@@ -286,6 +405,15 @@ public:
   bool temperatureDependency = false;
   int dependencies = 0;
   kmaC_MaterialTable table;
+};
+
+template <> struct keydeck::EnumTable<kmaC_Viscous::LawEnm> {
+  static constexpr std::string_view Noun = "viscous law";
+  static constexpr EnumEntry<kmaC_Viscous::LawEnm> Entries[] = {
+      {kmaC_Viscous::StrainLaw, "STRAIN", "strain"},
+      {kmaC_Viscous::TimeLaw, "TIME", "time"},
+      {kmaC_Viscous::UserViscousLaw, "USER", "user"},
+  };
 };
 
 /// How the solver regularises the material's tables: a tolerance and the
@@ -302,6 +430,14 @@ public:
 
   double rtol = rtolDef;
   StrainRateRegularizationEnm strainRateRegularization = Logarithmic;
+};
+
+template <> struct keydeck::EnumTable<kmaC_Regularization::StrainRateRegularizationEnm> {
+  static constexpr std::string_view Noun = "strain rate regularization";
+  static constexpr EnumEntry<kmaC_Regularization::StrainRateRegularizationEnm> Entries[] = {
+      {kmaC_Regularization::Logarithmic, "LOGARITHMIC", "logarithmic"},
+      {kmaC_Regularization::Linear, "LINEAR", "linear"},
+  };
 };
 
 /// "*Gasket elasticity, component=MEMBRANE": membrane elasticity of a gasket.
@@ -374,6 +510,25 @@ public:
   kmaC_MaterialTable unloading;
   std::optional<kmaC_ContactArea> contactArea;
 };
+
+template <> struct keydeck::EnumTable<kmaC_ThicknessBehavior::VariableUnitsEnm> {
+  static constexpr std::string_view Noun = "gasket variable";
+  static constexpr EnumEntry<kmaC_ThicknessBehavior::VariableUnitsEnm> Entries[] = {
+      {kmaC_ThicknessBehavior::Stress, "STRESS", "stress"},
+      {kmaC_ThicknessBehavior::Force, "FORCE", "force"},
+  };
+};
+
+namespace keydeck {
+
+/// True for the behaviours that only a gasket section's material writes
+/// ("*Gasket behavior"); an ordinary "*Material" leaves them out.
+template <class T> constexpr bool IsGasketOption = false;
+template <> inline constexpr bool IsGasketOption<kmaC_ThicknessBehavior> = true;
+template <> inline constexpr bool IsGasketOption<kmaC_TransShearElastic> = true;
+template <> inline constexpr bool IsGasketOption<kmaC_MembraneElastic> = true;
+
+} // namespace keydeck
 
 /// A material: one optional record per behaviour. The deck writes the
 /// behaviours in its own fixed order, whatever order the file gives them in.

@@ -107,7 +107,7 @@ public:
   const ddb_SetList& set() const { return sets; }
 
   int index = 0;
-  ddb_NodeData nodes;       // cow lists inside: a copy shares them
+  ddb_NodeData nodes; // cow lists inside: a copy shares them
   ddb_ElementData elements;
   ddb_SetList sets;
 };

@@ -13,8 +13,7 @@ public:
   /// A literal card: "*Element, type=" and one line "first, second".
   oif_Element(int first, int second, const cow_String& type, const cow_String& elset);
   /// A class under its own "*Element" line, with ", elset=" when one is given.
-  oif_Element(int first, int second, const ddb_ElementClass& elementClass,
-              const cow_String& elset);
+  oif_Element(int first, int second, const ddb_ElementClass& elementClass, const cow_String& elset);
   /// A class of a mesh, written without a keyword line.
   oif_Element(int first, int second, const ddb_ElementClass& elementClass, const ddb_Mesh& mesh,
               bool unused);

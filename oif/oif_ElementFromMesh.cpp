@@ -29,8 +29,7 @@ void oif_ElementFromMesh::Write(utl_Stream& s) const {
     const cow_String& type = elementClass.elementTypeLabel();
     if (type.Find("SURF") >= 0)
       continue;
-    AddKeyword(type,
-               oif_Element(elementOffset, nodeOffset, elementClass, instance_.mesh(), true),
+    AddKeyword(type, oif_Element(elementOffset, nodeOffset, elementClass, instance_.mesh(), true),
                byType);
   }
   for (const auto& [type, cards] : byType) {

@@ -47,7 +47,7 @@ void oif_Instance::Write(utl_Stream& s) const {
   if (!turned)
     return;
   const gsl_Point second = point + axis;
-  const double line[] = {point.x,  point.y,  point.z, second.x,
-                         second.y, second.z, angle * 180.0 / 3.141592653589793};
+  const double line[] = {
+      point.x, point.y, point.z, second.x, second.y, second.z, angle * 180.0 / 3.141592653589793};
   WriteValues(s, line, 7);
 }

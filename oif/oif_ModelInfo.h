@@ -32,10 +32,10 @@ private:
   void SetMeshData();
   void AddMesh(const cow_String& name, const ddb_Mesh& mesh);
   void SetStepData();
-  int NewIndex(cow_Map<cow_String, int>& counts, const cow_String& instance, bool commit,
-               int total, int& added);
-  int Increment(cow_Map<cow_String, int>& counts, const cow_String& instance, int count,
-                int total, int& added);
+  int NewIndex(cow_Map<cow_String, int>& counts, const cow_String& instance, bool commit, int total,
+               int& added);
+  int Increment(cow_Map<cow_String, int>& counts, const cow_String& instance, int count, int total,
+                int& added);
 
   ddb_Model database_;
   bool v6Format_ = false;

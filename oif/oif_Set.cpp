@@ -61,18 +61,17 @@ void oif_Set::AddElements(const rgnC_SetData& setData, const ddb_Mesh& mesh) {
 void oif_Set::AddFacets(const rgnC_SetData& setData, const ddb_Mesh& mesh) {
   for (int i = 0; i < setData.NumSubsets(); ++i) {
     const rgnC_SubsetData& subset = setData.SubSet(i);
-    if (subset.MeshIndex() != mesh.meshIndex() || subset.ClassIndex() < 0 ||
-        subset.indices.Empty())
+    if (subset.MeshIndex() != mesh.meshIndex() || subset.ClassIndex() < 0 || subset.indices.Empty())
       continue;
     const ddb_ElementClass& elementClass = mesh.elementData().elementClass(subset.ClassIndex());
     const cow_List<int>& elementLabels = elementClass.userElementLabelsAsFlatArray();
     const shp_Shape shape = elementClass.shape();
     const bool bySide = (shape.elementDimension == 2 && shape.spaceDimension == 3) || shape.shell;
-    const char* const prefix = shape.elementDimension == 1   ? "END"
-                               : shape.elementDimension == 3 ||
-                                         (shape.elementDimension == 2 && shape.spaceDimension == 2)
-                                   ? "S"
-                                   : "";
+    const char* const prefix =
+        shape.elementDimension == 1 ? "END"
+        : shape.elementDimension == 3 || (shape.elementDimension == 2 && shape.spaceDimension == 2)
+            ? "S"
+            : "";
     for (int j = 0; j < subset.indices.Size(); ++j) {
       const int facet = subset.facetIds.ConstGet(j);
       labels_.Append(elementLabels.ConstGet(subset.indices.UncheckedConstGet(j)));

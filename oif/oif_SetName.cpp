@@ -18,31 +18,46 @@ oif_SetName::oif_SetName(const cow_String& scopedName, bool) {
     instanceName_ = pieces.ConstGet(pieces.Size() - 2);
 }
 
-oif_SetName::oif_SetName(const rgnC_Region& region, const qkw_ModelInfo& info) {
+namespace keydeck {
+
+const ddb_Set* FindRegionSet(const ddb_Model& model, const rgnC_Region& region,
+                             cow_String& instanceName) {
   if (!region.HasSet())
-    return;
-  const ddb_Assembly& assembly = keydeck::FacadeOf(info.Model()).Model().rootAssembly();
+    return nullptr;
+  const ddb_Assembly& assembly = model.rootAssembly();
   const cow_String& path = region.Path();
   const int meshAt = path.Find(".mesh[");
-  if (meshAt < 0) {
-    const ddb_Set& set = assembly.set().ConstGet(region.SetIndex());
-    setName_ = set.setLabel();
-    nodeSet_ = set.setType() == res_NodeSet;
-    return;
-  }
+  const auto inList = [&](const ddb_SetList& sets) {
+    return region.SetIndex() >= 0 && region.SetIndex() < sets.Size()
+               ? &sets.UncheckedConstGet(region.SetIndex())
+               : nullptr;
+  };
+  if (meshAt < 0)
+    return inList(assembly.set());
   const int meshIndex = std::atoi(path.CStr() + meshAt + 6);
   for (const auto& [key, instance] : assembly.instance()) {
     if (!instance->IsPartInstance())
       continue;
-    const ddb_PartInstance& partInstance = keydeck::RecordCast<ddb_PartInstance>(*instance);
+    const ddb_PartInstance& partInstance = RecordCast<ddb_PartInstance>(*instance);
     if (partInstance.mesh().meshIndex() != meshIndex)
       continue;
-    const ddb_Set& set = partInstance.set().ConstGet(region.SetIndex());
-    setName_ = set.setLabel();
-    instanceName_ = partInstance.name();
-    nodeSet_ = set.setType() == res_NodeSet;
-    return;
+    instanceName = partInstance.name();
+    return inList(partInstance.set());
   }
+  return nullptr;
+}
+
+} // namespace keydeck
+
+oif_SetName::oif_SetName(const rgnC_Region& region, const qkw_ModelInfo& info) {
+  cow_String instanceName;
+  const ddb_Set* const set =
+      keydeck::FindRegionSet(keydeck::FacadeOf(info.Model()).Model(), region, instanceName);
+  if (set == nullptr)
+    return;
+  setName_ = set->setLabel();
+  instanceName_ = instanceName;
+  nodeSet_ = set->setType() == res_NodeSet;
 }
 
 cow_String oif_SetName::ScopedText(regionContext context) const {

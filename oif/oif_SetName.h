@@ -3,8 +3,19 @@
 #include "base/cow_List.h"
 #include "base/cow_String.h"
 
+class ddb_Model;
+class ddb_Set;
 class rgnC_Region;
 class qkw_ModelInfo;
+
+namespace keydeck {
+
+/// The set that a region refers to, with the name of its instance ("" for a
+/// set of the assembly); null when the region has no set or the set is gone.
+const ddb_Set* FindRegionSet(const ddb_Model& model, const rgnC_Region& region,
+                             cow_String& instanceName);
+
+} // namespace keydeck
 
 /// The name of a region's set together with its instance, and the tools for
 /// scoped names ("instance.set") that every card shares.

@@ -4,6 +4,7 @@
 #include "model/json/fields.h"
 #include "model/json/json_syntax.h"
 #include "model/json/json_text.h"
+#include "model/json/unwritten.h"
 
 #include <simdjson.h>
 
@@ -32,58 +33,53 @@ namespace {
 
 namespace od = simdjson::ondemand;
 
-// Record families that the deck writer cannot write yet, by the record that
-// would hold them. Such a key is refused with its own message, so that nobody
-// takes it for a misspelling and no part of a model vanishes from a deck
-// unnoticed. An entry leaves this table when the writer learns its family.
-enum class Holder { None, Model, Part, Assembly, Instance };
-
-template <class R> constexpr Holder HolderOf = Holder::None;
-template <> constexpr Holder HolderOf<ddb_Model> = Holder::Model;
-template <> constexpr Holder HolderOf<ddb_Part> = Holder::Part;
-template <> constexpr Holder HolderOf<ddb_Assembly> = Holder::Assembly;
-template <> constexpr Holder HolderOf<ddb_PartInstance> = Holder::Instance;
-
-struct PendingFamily {
-  Holder holder;
-  std::string_view key;
-  std::string_view words; // the message is WORDS " are not supported yet"
-};
-
-constexpr PendingFamily PendingFamilies[] = {
-    {Holder::Model, "materials", "materials"},
-    {Holder::Model, "sections", "sections"},
-    {Holder::Model, "loads", "loads"},
-    {Holder::Model, "boundaryConditions", "boundary conditions"},
-    {Holder::Model, "fields", "fields"},
-    {Holder::Model, "predefinedFields", "predefined fields"},
-    {Holder::Model, "interactions", "interactions"},
-    {Holder::Model, "interactionProperties", "interaction properties"},
-    {Holder::Model, "constraints", "constraints"},
-    {Holder::Model, "amplitudes", "amplitudes"},
-    {Holder::Model, "fieldOutputRequests", "field output requests"},
-    {Holder::Model, "historyOutputRequests", "history output requests"},
-    {Holder::Model, "connectorSections", "connector sections"},
-    {Holder::Model, "datums", "datums"},
-    {Holder::Model, "orientations", "orientations"},
-    {Holder::Part, "sectionAssignments", "section assignments"},
-    {Holder::Assembly, "nodes", "assembly nodes"},
-    {Holder::Assembly, "elements", "assembly elements"},
-    {Holder::Assembly, "connectors", "connectors"},
-};
-
-const PendingFamily* FindPendingFamily(Holder holder, std::string_view key) {
-  for (const PendingFamily& family : PendingFamilies)
-    if (family.holder == holder && family.key == key)
-      return &family;
-  return nullptr;
-}
-
 // The warnings of a model that loads: what the deck leaves out for now. This
 // is the one place that says so; it shrinks as the writer grows.
+// Collects the names of the gasket behaviours that a material holds.
+struct GasketOptionNames {
+  std::vector<const char*> names;
+  template <class M> void operator()(const char*, M&) {}
+  template <class M, class D> void operator()(const char* name, M& member, const D&) {
+    if constexpr (IsOptional<M>) {
+      if constexpr (IsGasketOption<typename M::value_type>)
+        if (member.has_value())
+          names.push_back(name);
+    }
+  }
+};
+
+// The deck writes a material with gasket behaviours as a gasket behaviour
+// only where a gasket section names it; otherwise it drops them.
+bool UsedByGasketSection(const ddb_Model& model, const cow_String& material) {
+  for (const auto& [sectionName, section] : model.sections())
+    if (section->DynTypeId() == kseC_GasketSection::TypeId() &&
+        RecordCast<kseC_GasketSection>(*section).material == material)
+      return true;
+  return false;
+}
+
+void AddGasketWarnings(std::string_view modelName, const ddb_Model& model,
+                       std::vector<std::string>& warnings) {
+  for (const auto& [name, material] : model.material()) {
+    if (!material->HasGasketOption() || UsedByGasketSection(model, name))
+      continue;
+    kmaC_Material record = *material; // `Fields` hands out its members for writing
+    GasketOptionNames options;
+    record.Fields(options);
+    for (const char* option : options.names) {
+      std::string warning = "models/";
+      warning.append(modelName).append("/materials/").append(name.View()).append("/");
+      warning.append(option).append(": no gasket section uses this material, so the deck "
+                                    "leaves out its gasket behaviour");
+      warnings.push_back(std::move(warning));
+    }
+  }
+}
+
 void AddUnwrittenWarnings(const cow_Btree<cow_String, ddb_Model>& models,
                           std::vector<std::string>& warnings) {
   for (const auto& [name, model] : models) {
+    AddGasketWarnings(name.View(), model, warnings);
     const kprC_StepContainer& steps = model.step().container();
     for (int i = 1; i < steps.Size(); ++i)
       warnings.push_back("models/" + std::string(name.View()) + "/steps/" + std::to_string(i) +
@@ -142,11 +138,20 @@ int EditDistance(std::string_view a, std::string_view b) {
   return row[b.size()];
 }
 
-// "; did you mean "nodes"?" for a key close to one of the record's fields.
+// "; did you mean "nodes"?" for a key close to one of the record's fields,
+// or to a key that the record refuses or drops by name.
 template <FieldRecord R> std::string Suggestion(std::string_view key) {
   R probe;
   NameCollector collector;
   probe.Fields(collector);
+  if constexpr (HolderOf<R> != Holder::None) {
+    for (const PendingFamily& family : PendingFamilies)
+      if (family.holder == HolderOf<R>)
+        collector.names.push_back(family.key);
+    for (const DroppedOption& option : DroppedOptions)
+      if (option.holder == HolderOf<R>)
+        collector.names.push_back(option.key);
+  }
   std::string_view best;
   int bestDistance = 3;
   for (const std::string_view name : collector.names) {
@@ -213,8 +218,9 @@ std::string Described(simdjson::simdjson_result<od::json_type> type) {
 // their `Fields` lists.
 class Reader {
 public:
-  Reader(const simdjson::padded_string& text, std::string_view documentName, LoadErrors& errors)
-      : text_(text), documentName_(documentName), errors_(errors) {}
+  Reader(const simdjson::padded_string& text, std::string_view documentName, LoadErrors& errors,
+         std::vector<std::string>& warnings)
+      : text_(text), documentName_(documentName), errors_(errors), warnings_(warnings) {}
 
   // Reads the whole text; false when it is broken or not a model file, so that
   // nothing more is worth checking.
@@ -311,6 +317,7 @@ private:
     errors_.Add(PathText(indices...), what);
   }
   void Error(std::string_view what) { ErrorAt(what); }
+  void Warn(std::string_view what) { warnings_.push_back(PathText().append(": ").append(what)); }
   void Fail(simdjson::error_code error);
   bool Stopped() const { return stopped_; }
   template <class... I>
@@ -338,7 +345,9 @@ private:
   template <class F> void ForEachEntry(od::value value, F&& read);
   template <class M> void ReadHeaderField(od::object& root, std::string_view key, M& member);
   template <FieldRecord R> void ReadMembers(od::object& object, R& record);
-  template <FieldRecord R> void UnknownKey(std::string_view key);
+  template <FieldRecord R>
+  void UnknownKey(std::string_view key, std::vector<std::string_view>& droppedKeys);
+  template <ColumnCheckedRecord R> void CheckColumns(R& record);
 
   // Scalars; the trailing indices name the place of an item inside the
   // member, for messages only.
@@ -378,6 +387,7 @@ private:
   void Read(od::value value, cow_List<int>& out);
   void Read(od::value value, uti_CoordCont3D& out);
   void Read(od::value value, cow_2DArray<int>& out);
+  void Read(od::value value, kmaC_MaterialTable& out);
   template <class T, std::size_t N> void Read(od::value value, std::array<T, N>& out);
   template <class T> void Read(od::value value, std::optional<T>& out) {
     out.emplace();
@@ -392,13 +402,20 @@ private:
   template <class Step> void ReadStep(od::value value, std::size_t index, kprC_StepContainer& out);
   template <FieldRecord R> void Read(od::value value, R& out) {
     od::object object;
-    if (GetObject(value, object))
-      ReadMembers(object, out);
+    if (!GetObject(value, object))
+      return;
+    const int before = errors_.Count();
+    ReadMembers(object, out);
+    if constexpr (ColumnCheckedRecord<R>) {
+      if (errors_.Count() == before && !Stopped())
+        CheckColumns(out);
+    }
   }
 
   const simdjson::padded_string& text_;
   std::string documentName_;
   LoadErrors& errors_;
+  std::vector<std::string>& warnings_;
   od::parser parser_;
   od::document document_;
   std::vector<PathSegment> path_;
@@ -529,6 +546,7 @@ template <class F> void Reader::ForEachEntry(od::value value, F&& read) {
 
 template <FieldRecord R> void Reader::ReadMembers(od::object& object, R& record) {
   std::uint64_t seen = 0;
+  std::vector<std::string_view> droppedKeys;
   for (auto member : object) {
     od::field field;
     std::string_view key;
@@ -543,7 +561,7 @@ template <FieldRecord R> void Reader::ReadMembers(od::object& object, R& record)
     FieldReader reader(*this, key, field.value(), seen);
     record.Fields(reader);
     if (!reader.Found())
-      UnknownKey<R>(key);
+      UnknownKey<R>(key, droppedKeys);
     if (Stopped())
       return;
   }
@@ -551,10 +569,21 @@ template <FieldRecord R> void Reader::ReadMembers(od::object& object, R& record)
   record.Fields(finisher);
 }
 
-template <FieldRecord R> void Reader::UnknownKey(std::string_view key) {
+template <FieldRecord R>
+void Reader::UnknownKey(std::string_view key, std::vector<std::string_view>& droppedKeys) {
   if (const PendingFamily* family = FindPendingFamily(HolderOf<R>, key)) {
     PathScope scope(*this, key);
-    Error(std::string(family->words) + " are not supported yet");
+    Error(PendingMessage(*family));
+    return;
+  }
+  if (IsDroppedOption(HolderOf<R>, key)) {
+    if (std::find(droppedKeys.begin(), droppedKeys.end(), key) != droppedKeys.end()) {
+      Error("duplicate key " + QuotedJson(key));
+      return;
+    }
+    droppedKeys.push_back(key);
+    PathScope scope(*this, key);
+    Warn(DroppedWarning);
     return;
   }
   if constexpr (std::is_same_v<R, NamedStep<kprC_InitialStep>>) {

@@ -2,8 +2,8 @@
 // leaves in the output folder.
 #include "tests/support/deck_text.h"
 
-#include <simdjson.h>
 #include <gtest/gtest.h>
+#include <simdjson.h>
 
 #include <filesystem>
 #include <fstream>
@@ -51,10 +51,9 @@ int CountLines(const std::string& text) {
 class Command : public ::testing::Test {
 protected:
   void SetUp() override {
-    folder_ = fs::temp_directory_path() / ("keydeck-cli-" + std::to_string(getpid()) + "-" +
-                                           ::testing::UnitTest::GetInstance()
-                                               ->current_test_info()
-                                               ->name());
+    folder_ = fs::temp_directory_path() /
+              ("keydeck-cli-" + std::to_string(getpid()) + "-" +
+               ::testing::UnitTest::GetInstance()->current_test_info()->name());
     fs::remove_all(folder_);
     fs::create_directories(folder_ / "out");
   }
@@ -89,9 +88,13 @@ TEST_F(Command, VersionHelpAndUsage) {
   EXPECT_EQ(help.status, 0);
   EXPECT_NE(help.out.find("Usage: keydeck"), std::string::npos);
 
-  const std::vector<std::vector<std::string>> misuses = {
-      {}, {"frobnicate"}, {"write"}, {"write", "a.json", "b.json"}, {"write", "a.json", "-x"},
-      {"write", "a.json", "-j"}, {"schema", "a.json"}};
+  const std::vector<std::vector<std::string>> misuses = {{},
+                                                         {"frobnicate"},
+                                                         {"write"},
+                                                         {"write", "a.json", "b.json"},
+                                                         {"write", "a.json", "-x"},
+                                                         {"write", "a.json", "-j"},
+                                                         {"schema", "a.json"}};
   for (const auto& args : misuses) {
     const Outcome run = RunKeydeck(args, folder_);
     EXPECT_EQ(run.status, 2) << run.err;
@@ -107,15 +110,16 @@ TEST_F(Command, WritesTheDeckAndSaysWhere) {
   EXPECT_EQ(Written(), std::vector<std::string>{"beam.inp"});
   EXPECT_NE(ReadFile((Out() / "beam.inp").string()).find("*Part, name=P\n"), std::string::npos);
 
-  const Outcome named = RunKeydeck({"write", model.string(), "-o", Out().string(), "-j", "Job-7", "-q"},
-                               folder_);
+  const Outcome named =
+      RunKeydeck({"write", model.string(), "-o", Out().string(), "-j", "Job-7", "-q"}, folder_);
   EXPECT_EQ(named.status, 0);
   EXPECT_EQ(named.out, "");
   EXPECT_EQ(Written(), (std::vector<std::string>{"Job-7.inp", "beam.inp"}));
 }
 
 TEST_F(Command, BadModelsFailCleanlyAndKeepTheOldDeck) {
-  const std::string model = R"({"format": "keydeck-model", "version": 1, "models": {"Default Model": )";
+  const std::string model =
+      R"({"format": "keydeck-model", "version": 1, "models": {"Default Model": )";
   struct Case {
     const char* name;
     std::string text;
@@ -136,7 +140,8 @@ TEST_F(Command, BadModelsFailCleanlyAndKeepTheOldDeck) {
     SCOPED_TRACE(c.name);
     std::ofstream(old) << "older deck\n";
     const fs::path path = Model(std::string(c.name) + ".json", c.text);
-    const Outcome run = RunKeydeck({"write", path.string(), "-o", Out().string(), "-j", "job"}, folder_);
+    const Outcome run =
+        RunKeydeck({"write", path.string(), "-o", Out().string(), "-j", "job"}, folder_);
     EXPECT_EQ(run.status, 1);
     EXPECT_NE(run.err.find(c.message), std::string::npos) << run.err;
     EXPECT_EQ(CountLines(run.err), 1) << run.err;
@@ -192,6 +197,58 @@ TEST_F(Command, SchemaIsJson) {
   EXPECT_EQ(parser.parse(run.out).get(schema), simdjson::SUCCESS);
   std::string_view draft;
   EXPECT_EQ(schema["$schema"].get(draft), simdjson::SUCCESS);
+}
+
+} // namespace
+
+namespace {
+
+TEST_F(Command, MeshAndSetFaultsNameTheirPlace) {
+  const std::string head =
+      R"({"format": "keydeck-model", "version": 1, "models": {"M": {"parts": {"P": {
+      "nodes": {"labels": [1, 2, 3, 4, 5, 6, 7, 8],
+                "coordinates": [[0,0,0],[1,0,0],[1,1,0],[0,1,0],[0,0,1],[1,0,1],[1,1,1],[0,1,1]]},
+      "elements": [{"type": "C3D8R", "labels": [1], "connectivity": [[1,2,3,4,5,6,7,8]]}])";
+  const std::string tail = R"(}}, "assembly": {"instances": {"I": {"part": "P"}}}}}})";
+  struct Case {
+    const char* name;
+    std::string text;
+    const char* path;
+  };
+  const Case cases[] = {
+      {"missing_node",
+       R"({"format": "keydeck-model", "version": 1, "models": {"M": {"parts": {"P": {
+          "nodes": {"labels": [1, 2], "coordinates": [[0,0,0],[1,0,0]]},
+          "elements": [{"type": "T3D2", "labels": [1], "connectivity": [[1, 9]]}]}}}}})",
+       "models/M/parts/P/elements/0/connectivity"},
+      {"duplicate_node",
+       R"({"format": "keydeck-model", "version": 1, "models": {"M": {"parts": {"P": {
+          "nodes": {"labels": [1, 1], "coordinates": [[0,0,0],[1,0,0]]}}}}}})",
+       "models/M/parts/P/nodes/labels/1"},
+      {"node_count",
+       R"({"format": "keydeck-model", "version": 1, "models": {"M": {"parts": {"P": {
+          "nodes": {"labels": [1, 2], "coordinates": [[0,0,0],[1,0,0]]},
+          "elements": [{"type": "C3D8R", "labels": [1], "connectivity": [[1, 2]]}]}}}}})",
+       "models/M/parts/P/elements/0/connectivity"},
+      {"set_label", head + R"(, "sets": {"S": {"nodes": [1, 99]}})" + tail,
+       "models/M/parts/P/sets/S/nodes"},
+      {"face_label",
+       head + R"(, "surfaces": {"F": {"faces": [{"face": "S7", "elements": [1]}]}})" + tail,
+       "models/M/parts/P/surfaces/F/faces/0/face"},
+      {"unknown_instance", head + R"(}}, "assembly": {"instances": {"I": {"part": "P"}},
+          "sets": {"A": {"nodes": [{"instance": "J", "labels": [1]}]}}}}}})",
+       "models/M/assembly/sets/A/nodes/0/instance"},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.name);
+    const fs::path path = Model(std::string(c.name) + ".json", c.text);
+    const Outcome run =
+        RunKeydeck({"write", path.string(), "-m", "M", "-o", Out().string()}, folder_);
+    EXPECT_EQ(run.status, 1);
+    EXPECT_NE(run.err.find(c.path), std::string::npos) << run.err;
+    EXPECT_EQ(CountLines(run.err), 1) << run.err;
+    EXPECT_TRUE(Written().empty());
+  }
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
 #include <string>
 #include <vector>
 
@@ -42,8 +43,8 @@ std::string NodesOnALine(int count, int firstLabel = 1) {
 std::string ElementsText(const odb_Odb& odb) {
   const ddb_Model& model = odb.ddb().model("Default Model");
   const oif_ModelInfo info(model);
-  const auto& instance =
-      keydeck::RecordCast<ddb_PartInstance>(*model.rootAssembly().instance().ConstGetMap().ConstGet("P-1"));
+  const auto& instance = keydeck::RecordCast<ddb_PartInstance>(
+      *model.rootAssembly().instance().ConstGetMap().ConstGet("P-1"));
   return DeckText(oif_ElementFromMesh(instance, info));
 }
 
@@ -68,9 +69,8 @@ TEST(MeshCards, NodeColumnsFollowTheWidestLabel) {
     int firstLabel;
     const char* line; // the line of element 5 on nodes firstLabel and firstLabel + 1
   };
-  const Case cases[] = {{98, "5, 98, 99\n"},
-                        {999999, "5, 999999,1000000\n"},
-                        {12345678, "5,12345678,12345679\n"}};
+  const Case cases[] = {
+      {98, "5, 98, 99\n"}, {999999, "5, 999999,1000000\n"}, {12345678, "5,12345678,12345679\n"}};
   for (const Case& c : cases) {
     SCOPED_TRACE(c.firstLabel);
     const std::string a = std::to_string(c.firstLabel);
@@ -169,10 +169,73 @@ TEST(AssemblyElementCard, ConnectorLinesNameInstanceNodes) {
   region.set.subsets = {subset};
 
   oif_ModelInfo info(model);
-  EXPECT_EQ(DeckText(oif_AssemblyElement(region, "Wires", info)),
-            "*Element, type=CONN3D2\n"
-            "2, \"Arm 1\".8, \"Arm 1\".7\n"
-            "1, 100, \"Arm 1\".7\n");
+  EXPECT_EQ(DeckText(oif_AssemblyElement(region, "Wires", info)), "*Element, type=CONN3D2\n"
+                                                                  "2, \"Arm 1\".8, \"Arm 1\".7\n"
+                                                                  "1, 100, \"Arm 1\".7\n");
+}
+
+} // namespace
+
+namespace {
+
+/// Reads element lines back: label, then its node labels, across wrapped lines.
+std::vector<std::vector<int>> ElementRows(const std::string& deck, int nodesPerElement) {
+  std::vector<int> values;
+  std::string number;
+  for (std::size_t i = deck.find('\n') + 1; i < deck.size(); ++i) { // past "*Element"
+    const char c = deck[i];
+    if (c >= '0' && c <= '9') {
+      number += c;
+      continue;
+    }
+    if (!number.empty())
+      values.push_back(std::stoi(number));
+    number.clear();
+  }
+  std::vector<std::vector<int>> rows;
+  for (std::size_t at = 0; at + static_cast<std::size_t>(nodesPerElement) < values.size() + 1;
+       at += static_cast<std::size_t>(nodesPerElement) + 1)
+    rows.emplace_back(values.begin() + static_cast<std::ptrdiff_t>(at),
+                      values.begin() + static_cast<std::ptrdiff_t>(at) + nodesPerElement + 1);
+  return rows;
+}
+
+TEST(MeshCards, PropertyElementLinesNameTheNodesOfTheFile) {
+  std::mt19937 random(7);
+  for (int round = 0; round < 60; ++round) {
+    const int nodes = 2 + static_cast<int>(random() % 40);
+    const int perElement = 1 + static_cast<int>(random() % 27);
+    const int elements = 1 + static_cast<int>(random() % 12);
+    std::vector<int> nodeLabels;
+    for (int label = 1 + static_cast<int>(random() % 5000);
+         static_cast<int>(nodeLabels.size()) < nodes; label += 1 + static_cast<int>(random() % 300))
+      nodeLabels.push_back(label);
+    std::string labels;
+    std::string coordinates;
+    for (int i = 0; i < nodes; ++i) {
+      labels.append(i ? "," : "").append(std::to_string(nodeLabels[static_cast<std::size_t>(i)]));
+      coordinates.append(i ? ",[0,0,0]" : "[0,0,0]");
+    }
+    std::vector<std::vector<int>> expected;
+    std::string elementLabels;
+    std::string rows;
+    for (int e = 0; e < elements; ++e) {
+      std::vector<int> row{1 + e * 1000 + static_cast<int>(random() % 999)};
+      rows.append(e ? ",[" : "[");
+      for (int j = 0; j < perElement; ++j) {
+        row.push_back(nodeLabels[random() % nodeLabels.size()]);
+        rows.append(j ? "," : "").append(std::to_string(row.back()));
+      }
+      rows.append("]");
+      elementLabels.append(e ? "," : "").append(std::to_string(row.front()));
+      expected.push_back(row);
+    }
+    const odb_Odb odb = PartModel(
+        R"({"labels": [)" + labels + R"(], "coordinates": [)" + coordinates + "]}",
+        R"([{"type": "U", "labels": [)" + elementLabels + R"(], "connectivity": [)" + rows + "]}]");
+    SCOPED_TRACE(round);
+    EXPECT_EQ(ElementRows(ElementsText(odb), perElement), expected);
+  }
 }
 
 } // namespace

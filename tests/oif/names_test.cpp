@@ -1,22 +1,29 @@
 #include "base/omu_QuorvexName.h"
 #include "base/qio_ostream.h"
 #include "base/utl_Stream.h"
+#include "model/database.h"
+#include "model/json/loader.h"
+#include "model/json/region_names.h"
+#include "oif/oif_ModelInfo.h"
+#include "oif/oif_Region.h"
 #include "oif/oif_SetName.h"
 #include "oif/oif_Utils.h"
 #include "qkw/qkw_QuorvexName.h"
 
 #include <gtest/gtest.h>
 
+#include <string>
 #include <utility>
+#include <vector>
 
 namespace {
 
 TEST(Names, QuoteIfNeededRule) {
   const std::pair<const char*, const char*> cases[] = {
-      {"Part-1", "Part-1"},      {"_set", "_set"},           {"a1_b-2", "a1_b-2"},
-      {"Set A", "\"Set A\""},    {"a,b", "\"a,b\""},         {"a.b", "\"a.b\""},
-      {"1set", "\"1set\""},      {"-x", "\"-x\""},           {"caf\xc3\xa9", "\"caf\xc3\xa9\""},
-      {"a\"b", "\"a\"b\""},      {"a*b", "\"a*b\""},         {"", ""}};
+      {"Part-1", "Part-1"},   {"_set", "_set"},   {"a1_b-2", "a1_b-2"},
+      {"Set A", "\"Set A\""}, {"a,b", "\"a,b\""}, {"a.b", "\"a.b\""},
+      {"1set", "\"1set\""},   {"-x", "\"-x\""},   {"caf\xc3\xa9", "\"caf\xc3\xa9\""},
+      {"a\"b", "\"a\"b\""},   {"a*b", "\"a*b\""}, {"", ""}};
   for (const auto& [name, printed] : cases) {
     SCOPED_TRACE(name);
     EXPECT_EQ(omu_QuorvexName::QuoteIfNeeded(name), printed);
@@ -91,12 +98,45 @@ TEST(Names, QuotingPieceByPiece) {
 
 TEST(Names, FaceLabels) {
   const std::pair<int, const char*> rows[] = {
-      {1001, "S1"}, {2005, "S5"}, {1000, "E0"}, {103, "E3"}, {101, "E1"}, {100, "S0"},
-      {12, "S2"},   {11, "S1"},   {10, "END10"}, {2, "END2"}, {1, "END1"}, {0, ""}, {-4, ""}};
+      {1001, "S1"}, {2005, "S5"},  {1000, "E0"}, {103, "E3"}, {101, "E1"}, {100, "S0"}, {12, "S2"},
+      {11, "S1"},   {10, "END10"}, {2, "END2"},  {1, "END1"}, {0, ""},     {-4, ""}};
   for (const auto& [face, label] : rows) {
     SCOPED_TRACE(face);
     EXPECT_EQ(oif_getLabel(face), label);
   }
+}
+
+} // namespace
+
+namespace {
+
+TEST(Names, RegionsOfTheModel) {
+  std::vector<std::string> warnings;
+  const odb_Odb odb =
+      keydeck::LoadModelFile(KEYDECK_SOURCE_DIR "/tests/golden/bracket.json", warnings);
+  const ddb_Model& model = odb.ddb().model("Default Model");
+  const oif_ModelInfo info(model);
+  keydeck::LoadErrors errors;
+  struct Case {
+    const char* scoped;
+    const char* setName;     // UniqueSetName in the assembly scope
+    const char* surfaceName; // UniqueSurfaceName in the assembly scope
+    const char* fullName;    // oif_Region
+  };
+  const Case cases[] = {{"Bracket-2.Tip", "Bracket-2.Tip", "Bracket-2_Tip_CNS_", "Bracket-2.Tip"},
+                        {"Bracket-1.All", "Bracket-1.All", "Bracket-1.All", "Bracket-1.All"},
+                        {"Roots", "Roots", "Roots_CNS_", "Roots"}};
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.scoped);
+    const rgnC_Region region = keydeck::ResolveRegion(model, c.scoped, "test", errors);
+    const oif_SetName name(region, info);
+    EXPECT_EQ(name.UniqueSetName(oif_SetName::AssemblyScope), c.setName);
+    EXPECT_EQ(name.UniqueSurfaceName(oif_SetName::AssemblyScope), c.surfaceName);
+    EXPECT_EQ(oif_Region(info.Model(), region).FullName(), c.fullName);
+  }
+  const oif_SetName none(rgnC_Region(), info);
+  EXPECT_EQ(none.UniqueSetName(oif_SetName::AssemblyScope), "");
+  EXPECT_EQ(oif_Region(info.Model(), rgnC_Region()).FullName(), "");
 }
 
 } // namespace

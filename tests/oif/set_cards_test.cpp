@@ -48,7 +48,8 @@ TEST(SetCards, SixteenLabelsToALine) {
 TEST(SetCards, ParametersAndQuoting) {
   EXPECT_EQ(DeckText(oif_Elset({3, 1, 2}, "Set A", "Part 1-1", true)),
             "*Elset, elset=\"Set A\", instance=\"Part 1-1\", internal, generate\n1, 3, 1\n");
-  EXPECT_EQ(DeckText(oif_Elset("All", {"A", "B C"})), "*Elset, elset=All, internal\nA, \n\"B C\", \n");
+  EXPECT_EQ(DeckText(oif_Elset("All", {"A", "B C"})),
+            "*Elset, elset=All, internal\nA, \n\"B C\", \n");
   EXPECT_EQ(DeckText(oif_Nset("All", {"A", "B C"})), "*Nset, nset=All\nA, \n\"B C\", \n");
   EXPECT_EQ(DeckText(oif_Nset("None", {})), "");
 }

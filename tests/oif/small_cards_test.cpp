@@ -14,9 +14,12 @@ namespace {
 using keydeck::test::DeckText;
 
 TEST(SmallCards, CommentText) {
-  const std::pair<const char*, const char*> cases[] = {
-      {"A", "** A\n"},         {"A\n", "** A\n** \n"},         {"\n", "** \n** \n"},
-      {"A\n\nB", "** A\n** \n** B\n"}, {"\nTITLE\n", "** \n** TITLE\n** \n"}, {"", ""}};
+  const std::pair<const char*, const char*> cases[] = {{"A", "** A\n"},
+                                                       {"A\n", "** A\n** \n"},
+                                                       {"\n", "** \n** \n"},
+                                                       {"A\n\nB", "** A\n** \n** B\n"},
+                                                       {"\nTITLE\n", "** \n** TITLE\n** \n"},
+                                                       {"", ""}};
   for (const auto& [text, deck] : cases) {
     SCOPED_TRACE(text);
     EXPECT_EQ(DeckText(oif_Comment(text)), deck);

@@ -1,8 +1,7 @@
-#include "qkw/qkw_BuilderComponent.h"
-
 #include "model/database.h"
 #include "oif/oif_ModelInfo.h"
 #include "oif/oif_RawKeyword.h"
+#include "qkw/qkw_BuilderComponent.h"
 #include "tests/support/deck_text.h"
 
 #include <gtest/gtest.h>
