@@ -2,6 +2,7 @@
 
 #include "base/nex_Exception.h"
 #include "cli/deck_file.h"
+#include "cli/progress.h"
 #include "model/database.h"
 #include "model/json/loader.h"
 #include "model/json/schema.h"
@@ -39,20 +40,26 @@ std::string ModelNames(const ddb_Ddb& ddb) {
 }
 
 /// Loads the file, printing its warnings; raises `ModelFileError` for a bad file.
-odb_Odb Load(const Options& options) {
+odb_Odb Load(const Options& options, ProgressLine& progress) {
+  progress.Show("loading", options.modelFile.c_str());
   std::vector<std::string> warnings;
   odb_Odb odb = LoadModelFile(options.modelFile.c_str(), warnings);
+  progress.Clear();
   if (!options.quiet)
     PrintWarnings(warnings);
   return odb;
 }
 
-int WriteModel(const Options& options, const ddb_Model& model, double loadSeconds) {
+int WriteModel(const Options& options, const ddb_Model& model, double loadSeconds,
+               ProgressLine& progress) {
   DeckFile deck(options.outputDir, options.job);
+  progress.Show("writing", deck.FinalPath().c_str());
   oif_ModelInfo info(model);
   oif_Builder builder(info);
   DeckPhaseTimes times;
-  if (!builder.WriteInputFile(cow_String(deck.TemporaryPath().c_str()), &times))
+  const bool written = builder.WriteInputFile(cow_String(deck.TemporaryPath().c_str()), &times);
+  progress.Clear();
+  if (!written)
     return Fail("cannot write " + deck.FinalPath() + ": " + deck.OpenFailure());
   deck.Commit();
   if (options.verbose) {
@@ -70,14 +77,15 @@ int WriteModel(const Options& options, const ddb_Model& model, double loadSecond
 
 int RunWrite(const Options& options) {
   try {
+    ProgressLine progress(options.quiet);
     const Clock::time_point start = Clock::now();
-    const odb_Odb odb = Load(options);
+    const odb_Odb odb = Load(options, progress);
     const double loadSeconds = std::chrono::duration<double>(Clock::now() - start).count();
     const cow_String modelName(options.modelName.c_str());
     if (!odb.ddb().models_.IsMember(modelName))
       return Fail(options.modelFile + ": no model named \"" + options.modelName +
                   "\"; the file has " + ModelNames(odb.ddb()));
-    return WriteModel(options, odb.ddb().model(modelName), loadSeconds);
+    return WriteModel(options, odb.ddb().model(modelName), loadSeconds, progress);
   } catch (const std::exception& failure) {
     return Fail(failure.what());
   }
@@ -85,7 +93,8 @@ int RunWrite(const Options& options) {
 
 int RunCheck(const Options& options) {
   try {
-    const odb_Odb odb = Load(options);
+    ProgressLine progress(options.quiet);
+    const odb_Odb odb = Load(options, progress);
     for (const auto& [name, model] : odb.ddb().models_)
       oif_ModelInfo info(model); // the tables the writer needs can be built
     if (!options.quiet)

@@ -175,6 +175,7 @@ public:
   template <class V> void Fields(V& v) {
     v("parts", parts_.parts_, cow_Btree<cow_String, ddb_Part>());
     v("assembly", assembly_, ddb_Assembly());
+    v("materials", materials_, mdl_MapString2ObjCow<kmaC_Material>());
     v("steps", steps_.steps, kprC_StepContainer());
     v("topLevelSolverInput", topLevelSolverInput_, cow_String());
     v("solverInput", solverInput_, cow_String());

@@ -4,6 +4,7 @@
 #include "base/cow_String.h"
 #include "model/records.h"
 
+#include <concepts>
 #include <optional>
 #include <string_view>
 
@@ -48,6 +49,12 @@ struct TableColumns {
     return columns == Fewest() || (moreData && columns > Fewest()) ||
            (optionalTemperature && columns == Fewest() + 1);
   }
+};
+
+/// A record that knows the columns of its one table.
+template <class R>
+concept ColumnCheckedRecord = requires(const R& record) {
+  { record.ExpectedColumns() } -> std::same_as<TableColumns>;
 };
 
 /// The columns of a table that may depend on temperature and field variables.
@@ -96,23 +103,41 @@ public:
 
 namespace keydeck::MaterialTags {
 // Data columns of each behaviour with a dependent table and no parameters.
-struct Density { static constexpr int DataColumns = 1; };
-struct SpecificHeat { static constexpr int DataColumns = 1; };
-struct Solubility { static constexpr int DataColumns = 1; };
-struct Potential { static constexpr int DataColumns = 6; };
-struct FailStress { static constexpr int DataColumns = 7; };
-struct FailStrain { static constexpr int DataColumns = 5; };
+struct Density {
+  static constexpr int DataColumns = 1;
+};
+struct SpecificHeat {
+  static constexpr int DataColumns = 1;
+};
+struct Solubility {
+  static constexpr int DataColumns = 1;
+};
+struct Potential {
+  static constexpr int DataColumns = 6;
+};
+struct FailStress {
+  static constexpr int DataColumns = 7;
+};
+struct FailStrain {
+  static constexpr int DataColumns = 5;
+};
 // Columns of each behaviour with a plain table. Deformation plasticity and
 // porous bulk moduli may add a temperature column without saying so.
-struct LatentHeat { static constexpr TableColumns Columns{.data = 3}; };
-struct Gel { static constexpr TableColumns Columns{.data = 4}; };
+struct LatentHeat {
+  static constexpr TableColumns Columns{.data = 3};
+};
+struct Gel {
+  static constexpr TableColumns Columns{.data = 4};
+};
 struct DeformationPlasticity {
   static constexpr TableColumns Columns{.data = 5, .optionalTemperature = true};
 };
 struct PorousBulkModuli {
   static constexpr TableColumns Columns{.data = 2, .optionalTemperature = true};
 };
-struct CycledPlastic { static constexpr TableColumns Columns{.data = 1, .moreData = true}; };
+struct CycledPlastic {
+  static constexpr TableColumns Columns{.data = 1, .moreData = true};
+};
 } // namespace keydeck::MaterialTags
 
 using kmaC_Density = kmaC_DependentTable<keydeck::MaterialTags::Density>;
@@ -391,7 +416,9 @@ public:
   /// beyond one column.
   keydeck::TableColumns ExpectedColumns() const {
     if (law == UserViscousLaw)
-      return {.data = 1, .moreData = true, .temperature = temperatureDependency,
+      return {.data = 1,
+              .moreData = true,
+              .temperature = temperatureDependency,
               .fieldVariables = dependencies};
     return keydeck::DependentColumns(4, temperatureDependency, dependencies);
   }
@@ -542,8 +569,7 @@ public:
 
   template <class V> void Fields(V& v) {
     v("creep", creep, std::optional<kmaC_Creep>());
-    v("deformationPlasticity", deformationPlasticity,
-      std::optional<kmaC_DeformationPlasticity>());
+    v("deformationPlasticity", deformationPlasticity, std::optional<kmaC_DeformationPlasticity>());
     v("density", density, std::optional<kmaC_Density>());
     v("elastic", elastic, std::optional<kmaC_Elastic>());
     v("thicknessBehavior", thicknessBehavior, std::optional<kmaC_ThicknessBehavior>());

@@ -3,7 +3,6 @@
 #include "base/cow_String.h"
 #include "base/utl_Stream.h"
 #include "model/records.h"
-#include "oif/oif_MaterialEnumTexts.h"
 
 #include <cassert>
 #include <type_traits>

@@ -544,8 +544,8 @@ private:
 
 // The set data of a part's or the assembly's sets and surfaces, in one list in
 // ascending byte order of their names. `derive(name, definition, path)` gives
-// the set data of one definition. A surface may not take a set's name, nor
-// either of them the empty name.
+// the set data of one definition. A surface may not take a set's name (the
+// loader has refused empty names already).
 template <class Set, class Surface, class DeriveSet, class DeriveSurface>
 ddb_SetList SetListOf(const cow_Btree<cow_String, Set>& sets,
                       const cow_Btree<cow_String, Surface>& surfaces, const std::string& ownerPath,
@@ -555,10 +555,6 @@ ddb_SetList SetListOf(const cow_Btree<cow_String, Set>& sets,
   const auto add = [&](const cow_String& name, const auto& definition, const char* kind,
                        auto&& derive) {
     const std::string path = ownerPath + "/" + kind + "s/" + std::string(name.View());
-    if (name.Empty()) {
-      errors.Add(ownerPath + "/" + kind + "s", "a " + std::string(kind) + " needs a name");
-      return;
-    }
     if (errors.AnyAtOrUnder(path))
       return;
     if (std::string_view(kind) == "surface" && sets.IsMember(name)) {

@@ -20,6 +20,8 @@ namespace {
 template <class M, class D> bool IsDefault(const M& member, const D& value) {
   if constexpr (FieldRecord<M>) {
     return false;
+  } else if constexpr (std::is_same_v<M, kmaC_MaterialTable>) {
+    return member.Rows() == 0 && value.Rows() == 0;
   } else if constexpr (IsOptional<M>) {
     return !member.has_value();
   } else if constexpr (requires { member.Size(); } && std::is_same_v<M, D>) {
@@ -91,6 +93,17 @@ public:
       out_.OpenArray(/*oneLine=*/true);
       for (int c = 0; c < rows.Cols(); ++c)
         out_.Integer(rows.ConstGet(r, c));
+      out_.CloseArray();
+    }
+    out_.CloseArray();
+  }
+
+  void Write(const kmaC_MaterialTable& table) {
+    out_.OpenArray(/*oneLine=*/false);
+    for (int r = 0; r < table.Rows(); ++r) {
+      out_.OpenArray(/*oneLine=*/true);
+      for (int c = 0; c < table.Cols(); ++c)
+        out_.Real(table.ConstGet(r, c));
       out_.CloseArray();
     }
     out_.CloseArray();

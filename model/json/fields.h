@@ -37,6 +37,7 @@ concept FieldRecord = requires(R& record, AnyFieldVisitor& visitor) {
 template <class Base> struct MapEntryClass;
 template <> struct MapEntryClass<ddb_BaseInstance> { using Type = ddb_PartInstance; };
 template <> struct MapEntryClass<klcC_LoadCase> { using Type = klcC_LoadCase; };
+template <> struct MapEntryClass<kmaC_Material> { using Type = kmaC_Material; };
 
 /// A step as the file gives it: its name, then the step's own fields. The
 /// model keeps the name as the step's key.

@@ -396,6 +396,9 @@ private:
   void Read(od::value value, LabelList& out);
   void CheckRange(const LabelRange& range);
   template <FieldRecord R> void Read(od::value value, cow_List<R>& out);
+  /// True for the name of a new entry of a named collection; an empty or a
+  /// repeated name is an error.
+  bool AcceptName(std::string_view key, bool taken);
   template <FieldRecord R> void Read(od::value value, cow_Btree<cow_String, R>& out);
   template <class Base> void Read(od::value value, mdl_MapString2ObjCow<Base>& out);
   void Read(od::value value, kprC_StepContainer& out);
@@ -420,6 +423,7 @@ private:
   od::document document_;
   std::vector<PathSegment> path_;
   bool stopped_ = false;
+  bool skippedValue_ = false; // a value was passed over unread, so its syntax is unchecked
   simdjson::error_code stopError_ = simdjson::SUCCESS;
   std::string stopPath_;
 };
@@ -582,6 +586,7 @@ void Reader::UnknownKey(std::string_view key, std::vector<std::string_view>& dro
       return;
     }
     droppedKeys.push_back(key);
+    skippedValue_ = true;
     PathScope scope(*this, key);
     Warn(DroppedWarning);
     return;
@@ -648,7 +653,7 @@ bool Reader::Read(ModelFile& file) {
 // At the end: a broken text gets one message that says where it breaks, in
 // place of whatever the walk made of it.
 bool Reader::Finish() {
-  if (!stopped_ && errors_.Empty())
+  if (!stopped_ && errors_.Empty() && !skippedValue_)
     return true;
   const std::string_view text(text_.data(), text_.size());
   if (const std::optional<JsonSyntaxError> syntax = FindJsonSyntaxError(text)) {
@@ -799,6 +804,126 @@ void Reader::Read(od::value value, cow_2DArray<int>& out) {
   });
 }
 
+// A table is an array of rows of numbers, all rows of one length; the first
+// row fixes it.
+void Reader::Read(od::value value, kmaC_MaterialTable& out) {
+  od::array rows;
+  int rowCount = 0;
+  if (!GetArray(value, rows) || !CountItems(rows, rowCount))
+    return;
+  cow_2DArray<double> cells;
+  std::vector<double> firstRow;
+  std::size_t width = 0;
+  ForEachItem(rows, [&](od::value item, std::size_t row) {
+    if (row >= static_cast<std::size_t>(rowCount)) {
+      Fail(simdjson::TAPE_ERROR);
+      return;
+    }
+    od::array numbers;
+    if (!GetArray(item, numbers, row))
+      return;
+    if (width == 0) {
+      ForEachItem(numbers, [&](od::value number, std::size_t column) {
+        firstRow.push_back(0);
+        if (const simdjson::error_code error = number.get_double().get(firstRow.back()))
+          BadReal(number, error, row, column);
+      });
+      if (Stopped())
+        return;
+      if (firstRow.empty()) {
+        ErrorAt("a table row must hold at least one value", row);
+        return;
+      }
+      width = firstRow.size();
+      cells = cow_2DArray<double>(rowCount, static_cast<int>(width));
+      std::copy(firstRow.begin(), firstRow.end(), &cells.Get(static_cast<int>(row), 0));
+      return;
+    }
+    double* const cell = &cells.Get(static_cast<int>(row), 0);
+    std::size_t found = 0;
+    ForEachItem(numbers, [&](od::value number, std::size_t column) {
+      if (column < width) {
+        if (const simdjson::error_code error = number.get_double().get(cell[column]))
+          BadReal(number, error, row, column);
+      }
+      found = column + 1;
+    });
+    if (found != width && !Stopped()) {
+      std::string what = "row has ";
+      what.append(std::to_string(found)).append(found == 1 ? " value" : " values");
+      what.append(", rows above have ").append(std::to_string(width));
+      ErrorAt(what, row);
+    }
+  });
+  out = kmaC_MaterialTable(cells);
+}
+
+// "expected 4 columns (2 data, 1 temperature, 1 field variable), found 5".
+std::string ColumnsMessage(const TableColumns& columns, int found) {
+  const int fewest = columns.Fewest();
+  std::string text = "expected ";
+  if (columns.moreData)
+    text.append("at least ");
+  text.append(std::to_string(fewest));
+  if (columns.optionalTemperature)
+    text.append(" or ").append(std::to_string(fewest + 1));
+  text.append(fewest == 1 && !columns.optionalTemperature ? " column (" : " columns (");
+  if (columns.moreData)
+    text.append("at least ");
+  text.append(std::to_string(columns.data)).append(" data");
+  if (columns.temperature)
+    text.append(", 1 temperature");
+  if (columns.optionalTemperature)
+    text.append(", 1 optional temperature");
+  if (columns.fieldVariables > 0)
+    text.append(", ")
+        .append(std::to_string(columns.fieldVariables))
+        .append(columns.fieldVariables == 1 ? " field variable" : " field variables");
+  text.append("), found ").append(std::to_string(found));
+  return text;
+}
+
+// Finds the one table of a record whose columns it knows.
+struct TableField {
+  const char* name = nullptr;
+  kmaC_MaterialTable* table = nullptr;
+  int count = 0;
+  template <class M> void operator()(const char* fieldName, M& member) { Take(fieldName, member); }
+  template <class M, class D> void operator()(const char* fieldName, M& member, const D&) {
+    Take(fieldName, member);
+  }
+  template <class M> void Take(const char* fieldName, M& member) {
+    if constexpr (std::is_same_v<M, kmaC_MaterialTable>) {
+      name = fieldName;
+      table = &member;
+      ++count;
+    }
+  }
+};
+
+// A record that knows its columns gets its table checked against them; an
+// empty table takes them, so that the writer finds the columns it counts on.
+template <ColumnCheckedRecord R> void Reader::CheckColumns(R& record) {
+  TableField field;
+  record.Fields(field);
+  assert(field.count == 1 && "a record that knows its columns has one table");
+  const TableColumns columns = record.ExpectedColumns();
+  if (columns.fieldVariables < 0) {
+    std::string what = "the number of field variables must be 0 or more, found ";
+    Error(what.append(std::to_string(columns.fieldVariables)));
+    return;
+  }
+  kmaC_MaterialTable& table = *field.table;
+  if (table.Rows() == 0) {
+    table = kmaC_MaterialTable(0, columns.Fewest());
+    return;
+  }
+  if (columns.Fits(table.Cols()))
+    return;
+  PathScope scope(*this, field.name);
+  Error(ColumnsMessage(columns, table.Cols()));
+}
+
 template <class T, std::size_t N> void Reader::Read(od::value value, std::array<T, N>& out) {
   od::array items;
   if (!GetArray(value, items))
@@ -860,13 +985,21 @@ template <FieldRecord R> void Reader::Read(od::value value, cow_List<R>& out) {
   });
 }
 
+bool Reader::AcceptName(std::string_view key, bool taken) {
+  if (key.empty()) {
+    Error("a name must not be empty");
+    return false;
+  }
+  if (taken)
+    Error("duplicate key " + QuotedJson(key));
+  return !taken;
+}
+
 template <FieldRecord R> void Reader::Read(od::value value, cow_Btree<cow_String, R>& out) {
   ForEachEntry(value, [&](od::value item, std::string_view key) {
     const cow_String name(key);
-    if (out.IsMember(name)) {
-      Error("duplicate key " + QuotedJson(key));
+    if (!AcceptName(key, out.IsMember(name)))
       return;
-    }
     PathScope scope(*this, key);
     R record;
     Read(item, record);
@@ -877,10 +1010,8 @@ template <FieldRecord R> void Reader::Read(od::value value, cow_Btree<cow_String
 template <class Base> void Reader::Read(od::value value, mdl_MapString2ObjCow<Base>& out) {
   ForEachEntry(value, [&](od::value item, std::string_view key) {
     const cow_String name(key);
-    if (out.IsMember(name)) {
-      Error("duplicate key " + QuotedJson(key));
+    if (!AcceptName(key, out.IsMember(name)))
       return;
-    }
     PathScope scope(*this, key);
     typename MapEntryClass<Base>::Type record;
     Read(item, record);
@@ -908,9 +1039,10 @@ void Reader::ReadStep(od::value value, std::size_t index, kprC_StepContainer& ou
   Read(value, step);
   if (errors_.Count() != before)
     return;
-  if (out.IsMember(step.name)) {
+  if (step.name.Empty() || out.IsMember(step.name)) {
     PathScope name(*this, "name");
-    Error("duplicate step name " + QuotedJson(step.name.View()));
+    Error(step.name.Empty() ? "a step needs a name"
+                            : "duplicate step name " + QuotedJson(step.name.View()));
     return;
   }
   out.Append(step.name, kprC_StepContainer::Handle(static_cast<const kprC_Step&>(step.step)));
@@ -993,8 +1125,9 @@ odb_Odb LoadText(simdjson::padded_string& text, std::string_view documentName,
   file.format = FileFormat::Unknown;
   file.version.number = 0;
   bool whole = false;
+  std::vector<std::string> readWarnings; // kept only if the model loads
   {
-    Reader reader(text, documentName, errors);
+    Reader reader(text, documentName, errors, readWarnings);
     whole = reader.Read(file);
   }
   text = simdjson::padded_string(); // the model holds all it needs from the text now
@@ -1004,6 +1137,7 @@ odb_Odb LoadText(simdjson::padded_string& text, std::string_view documentName,
   }
   if (!errors.Empty())
     errors.Throw();
+  warnings.insert(warnings.end(), readWarnings.begin(), readWarnings.end());
   AddUnwrittenWarnings(file.models, warnings);
   ddb_Ddb ddb;
   ddb.models_ = file.models;

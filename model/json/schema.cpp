@@ -2,6 +2,7 @@
 
 #include "model/json/fields.h"
 #include "model/json/json_text.h"
+#include "model/json/unwritten.h"
 
 #include <array>
 #include <cassert>
@@ -84,6 +85,13 @@ public:
     ArrayOf(0, /*minItems=*/1, /*maxItems=*/-1);
     out_.CloseObject();
   }
+  void Body(const kmaC_MaterialTable&) {
+    Type("array");
+    out_.Key("items");
+    out_.OpenObject();
+    ArrayOf(0.0, /*minItems=*/1, /*maxItems=*/-1);
+    out_.CloseObject();
+  }
   template <FieldRecord R> void Body(const cow_List<R>&) { ArrayOf(R(), -1, -1); }
   template <FieldRecord R> void Body(const cow_Btree<cow_String, R>&) { MapOf(R()); }
   template <class Base> void Body(const mdl_MapString2ObjCow<Base>&) {
@@ -104,6 +112,7 @@ public:
     out_.OpenObject();
     PropertyWriter properties(*this);
     record.Fields(properties);
+    DroppedProperties(HolderOf<R>);
     out_.CloseObject();
     RequiredNames required;
     record.Fields(required);
@@ -145,6 +154,15 @@ private:
     template <class M, class D> void operator()(const char*, M&, const D&) {}
   };
 
+  // What the deck leaves out on purpose is accepted whatever its value.
+  void DroppedProperties(Holder holder) {
+    for (const DroppedOption& option : DroppedOptions) {
+      if (option.holder != holder)
+        continue;
+      out_.Key(option.key);
+      EmptyObject();
+    }
+  }
   void Type(std::string_view type) {
     out_.Key("type");
     out_.String(type);
@@ -177,6 +195,10 @@ private:
   template <class M> void Default(const M& value) {
     if constexpr (FieldRecord<M> || IsOptional<M>) {
       return;
+    } else if constexpr (std::is_same_v<M, kmaC_MaterialTable>) {
+      assert(value.Rows() == 0 && "a table whose default is not empty");
+      out_.Key("default");
+      EmptyArray();
     } else if constexpr (IsArray<M>) {
       out_.Key("default");
       out_.OpenArray(/*oneLine=*/true);

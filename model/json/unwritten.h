@@ -96,13 +96,20 @@ struct DroppedOption {
 };
 
 inline constexpr DroppedOption DroppedOptions[] = {
-    {Holder::Material, "brittleCracking"},   {Holder::Material, "damageInitiation"},
-    {Holder::Material, "fluidLeakoff"},      {Holder::Material, "gapConductance"},
-    {Holder::Material, "gapConvection"},     {Holder::Material, "gapFlow"},
-    {Holder::Material, "gapRadiation"},      {Holder::Material, "lowDensityFoam"},
-    {Holder::Material, "magneticPermeability"}, {Holder::Material, "meanFieldHomogenization"},
-    {Holder::Material, "mullinsEffect"},     {Holder::Material, "shear"},
-    {Holder::Material, "softRockPlasticity"}, {Holder::Material, "superElasticity"},
+    {Holder::Material, "brittleCracking"},
+    {Holder::Material, "damageInitiation"},
+    {Holder::Material, "fluidLeakoff"},
+    {Holder::Material, "gapConductance"},
+    {Holder::Material, "gapConvection"},
+    {Holder::Material, "gapFlow"},
+    {Holder::Material, "gapRadiation"},
+    {Holder::Material, "lowDensityFoam"},
+    {Holder::Material, "magneticPermeability"},
+    {Holder::Material, "meanFieldHomogenization"},
+    {Holder::Material, "mullinsEffect"},
+    {Holder::Material, "shear"},
+    {Holder::Material, "softRockPlasticity"},
+    {Holder::Material, "superElasticity"},
     {Holder::Material, "viscosity"},
 };
 
@@ -125,8 +132,8 @@ constexpr bool IsDroppedOption(Holder holder, std::string_view key) {
 /// "hyperelastic behaviour is not supported yet".
 inline std::string PendingMessage(const PendingFamily& family) {
   return std::string(family.words) + (family.holder == Holder::Material
-                                           ? " behaviour is not supported yet"
-                                           : " are not supported yet");
+                                          ? " behaviour is not supported yet"
+                                          : " are not supported yet");
 }
 
 /// The warning for a behaviour that the deck leaves out on purpose.

@@ -63,6 +63,11 @@ TEST(Loader, TopLevelMessages) {
 TEST(Loader, ModelMessages) {
   ExpectMessages({
       {"unknown field", InModel(R"({"colour": 1})"), {R"(models/M: unknown field "colour")"}},
+      {"empty names",
+       InModel(R"({"parts": {"": {}}, "materials": {"": {}},
+                   "assembly": {"instances": {"": {"part": "P"}}}})"),
+       {"models/M/parts: a name must not be empty", "models/M/materials: a name must not be empty",
+        "models/M/assembly/instances: a name must not be empty"}},
       {"near miss",
        InModel(R"({"part": {}})"),
        {R"(models/M: unknown field "part"; did you mean "parts"?)"}},
@@ -236,6 +241,9 @@ TEST(Loader, StepMessages) {
        WithSteps(R"([{"name": "Initial"}, {"name": "S"}])"),
        {R"(models/M/steps/1: missing field "procedure")"}},
       {"step without name", WithSteps(R"([{}])"), {R"(models/M/steps/0: missing field "name")"}},
+      {"empty step name",
+       WithSteps(R"([{"name": ""}])"),
+       {"models/M/steps/0/name: a step needs a name"}},
       {"unknown procedure",
        WithSteps(R"([{"name": "Initial"}, {"name": "S", "procedure": "statc"}])"),
        {R"(models/M/steps/1/procedure: unknown procedure "statc"; expected one of )" + procedures}},
@@ -263,7 +271,6 @@ TEST(Loader, StepMessages) {
 // Each family the writer cannot write yet is refused by name where it would go.
 TEST(Loader, FamiliesNotSupportedYet) {
   const std::pair<const char*, const char*> modelKeys[] = {
-      {"materials", "materials"},
       {"sections", "sections"},
       {"loads", "loads"},
       {"boundaryConditions", "boundary conditions"},
@@ -330,8 +337,8 @@ TEST(Loader, SyntaxMessagesGivePosition) {
       // The walk skips what it refuses, so a fault in there is found by the
       // syntax check at the end, and it is the one message.
       {"fault inside a refused family",
-       InModel(R"({"materials": {"a": [1 2]}})"),
-       {"invalid JSON at line 1, column 82 (byte offset 81): expected \",\" or \"]\""}},
+       InModel(R"({"sections": {"a": [1 2]}})"),
+       {"invalid JSON at line 1, column 81 (byte offset 80): expected \",\" or \"]\""}},
       // Found by the fuzzer: the walk met more connectivity rows than it had
       // counted, and wrote past the array.
       {"broken connectivity",

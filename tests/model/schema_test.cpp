@@ -1,5 +1,6 @@
 #include "model/json/loader.h"
 #include "model/json/schema.h"
+#include "model/materials.h"
 #include "model/records.h"
 #include "model/steps.h"
 
@@ -221,6 +222,24 @@ TEST_F(Schema, FollowsTheFieldLists) {
   EXPECT_TRUE(model["properties"]["absoluteZero"]["default"].error());
   EXPECT_FALSE(bool(model["properties"]["endRestartStep"]["default"]));
   EXPECT_FALSE(bool(model["additionalProperties"]));
+
+  const dom::element material = model["properties"]["materials"]["additionalProperties"];
+  std::vector<std::string> elasticWords;
+  for (const dom::element word :
+       dom::array(material["properties"]["elastic"]["properties"]["type"]["enum"]))
+    elasticWords.emplace_back(std::string_view(word));
+  std::vector<std::string> elasticTableWords;
+  for (const auto& entry : EnumTable<kmaC_Elastic::TypeEnm>::Entries)
+    elasticTableWords.emplace_back(entry.fileText);
+  EXPECT_EQ(elasticWords, elasticTableWords);
+  EXPECT_EQ(std::string_view(material["properties"]["elastic"]["properties"]["type"]["default"]),
+            "isotropic");
+  // A table is rows of numbers; what the deck leaves out takes any value;
+  // what it cannot write yet is not there.
+  const dom::element table = material["properties"]["density"]["properties"]["table"];
+  EXPECT_EQ(std::string_view(table["items"]["items"]["type"]), "number");
+  EXPECT_EQ(dom::object(material["properties"]["mullinsEffect"]).size(), 0u);
+  EXPECT_TRUE(material["properties"]["hyperelastic"].error());
 }
 
 TEST_F(Schema, AcceptsValidFiles) {
@@ -253,6 +272,15 @@ TEST_F(Schema, AcceptsValidFiles) {
     EXPECT_EQ(Problems(json), std::vector<std::string>{});
     EXPECT_TRUE(Loads(json));
   }
+}
+
+TEST_F(Schema, AcceptsWhatTheDeckLeavesOut) {
+  std::string json = SmallModel;
+  const std::string from = R"("topLevelSolverInput": "** top")";
+  json.replace(json.find(from), from.size(),
+               R"("materials": {"S": {"mullinsEffect": [1, {"a": null}], "shear": 3}})");
+  EXPECT_EQ(Problems(json), std::vector<std::string>{});
+  EXPECT_TRUE(Loads(json));
 }
 
 // Faults the schema can express: both the schema and the loader refuse them.
@@ -302,6 +330,18 @@ TEST_F(Schema, RefusesWhatTheLoaderRefuses) {
            R"("surfaces": {"S": {"faces": [{"face": "END1", "elements": [1], "labels": [1]}]}})"),
        "/models/Default Model/parts/Beam/surfaces/S/faces/0: unknown member labels"},
       {replaced(R"("format": "keydeck-model", )", ""), ": lacks format"},
+      {replaced(R"("topLevelSolverInput": "** top")",
+                R"("materials": {"S": {"elastic": {"type": "isotropc", "table": [[1, 0.3]]}}})"),
+       "/models/Default Model/materials/S/elastic/type: not one of the enumerated values"},
+      {replaced(R"("topLevelSolverInput": "** top")",
+                R"("materials": {"S": {"hyperelastic": {}}})"),
+       "/models/Default Model/materials/S: unknown member hyperelastic"},
+      {replaced(R"("topLevelSolverInput": "** top")",
+                R"("materials": {"S": {"density": {"table": [[]]}}})"),
+       "/models/Default Model/materials/S/density/table/0: too few items"},
+      {replaced(R"("topLevelSolverInput": "** top")",
+                R"("materials": {"S": {"density": {"table": [["1"]]}}})"),
+       "/models/Default Model/materials/S/density/table/0/0: not of type number"},
   };
   for (const auto& [json, problem] : cases) {
     SCOPED_TRACE(problem);

@@ -185,8 +185,8 @@ TEST(PartSets, Messages) {
         "models/M/parts/P/sets/T: expected an object, found an array"}},
       {"nameless",
        WithPartMembers(R"(, "sets": {"": {"nodes": [1]}}, "surfaces": {"": {"nodes": [1]}})"),
-       {"models/M/parts/P/sets: a set needs a name",
-        "models/M/parts/P/surfaces: a surface needs a name"}},
+       {"models/M/parts/P/sets: a name must not be empty",
+        "models/M/parts/P/surfaces: a name must not be empty"}},
       // A fault in a set leaves the mesh checked, and the other way round.
       {"set and mesh faults",
        WithPart(R"({"nodes": {"labels": [1], "coordinates": [[0, 0, 0]]},
