@@ -386,6 +386,13 @@ private:
   void Read(od::value value, FileVersion& out);
   void Read(od::value value, cow_List<int>& out);
   void Read(od::value value, uti_CoordCont3D& out);
+  /// What the messages of `ReadRows` call a row that is empty or uneven.
+  struct RowWords {
+    const char* emptyRow;
+    std::string (*unevenRow)(std::size_t found, std::size_t width);
+  };
+  template <class T, class ReadCell>
+  void ReadRows(od::value value, cow_2DArray<T>& out, const RowWords& words, ReadCell&& readCell);
   void Read(od::value value, cow_2DArray<int>& out);
   void Read(od::value value, kmaC_MaterialTable& out);
   template <class T, std::size_t N> void Read(od::value value, std::array<T, N>& out);
@@ -753,15 +760,18 @@ void Reader::Read(od::value value, uti_CoordCont3D& out) {
   });
 }
 
-void Reader::Read(od::value value, cow_2DArray<int>& out) {
+// An array of rows of one length, the first row fixing it: the array is made
+// once that length is known, so the values go straight to their place.
+// `readCell(value, cell, row, column)` reads one value; `words` names the rows'
+// values in messages.
+template <class T, class ReadCell>
+void Reader::ReadRows(od::value value, cow_2DArray<T>& out, const RowWords& words,
+                      ReadCell&& readCell) {
   od::array rows;
   int rowCount = 0;
   if (!GetArray(value, rows) || !CountItems(rows, rowCount))
     return;
-  // The first row fixes the width; the array is made once it is known, so
-  // that the labels go straight to their place.
-  std::vector<int> firstRow;
-  int* cells = nullptr;
+  std::vector<T> firstRow;
   std::size_t width = 0;
   ForEachItem(rows, [&](od::value item, std::size_t row) {
     // In a broken text the walk may find more rows than the count said; the
@@ -770,91 +780,64 @@ void Reader::Read(od::value value, cow_2DArray<int>& out) {
       Fail(simdjson::TAPE_ERROR);
       return;
     }
-    od::array labels;
-    if (!GetArray(item, labels, row))
+    od::array values;
+    if (!GetArray(item, values, row))
       return;
-    if (cells == nullptr) {
-      ForEachItem(labels, [&](od::value label, std::size_t column) {
-        firstRow.push_back(0);
-        ReadInt(label, firstRow.back(), row, column);
+    if (width == 0) {
+      ForEachItem(values, [&](od::value cell, std::size_t column) {
+        firstRow.push_back(T());
+        readCell(cell, firstRow.back(), row, column);
       });
       if (Stopped())
         return;
       if (firstRow.empty()) {
-        ErrorAt("a connectivity row must name at least one node", row);
+        ErrorAt(words.emptyRow, row);
         return;
       }
       width = firstRow.size();
-      out = cow_2DArray<int>(rowCount, static_cast<int>(width));
-      cells = &out.Get(0, 0);
-      std::copy(firstRow.begin(), firstRow.end(), cells + row * width);
+      out = cow_2DArray<T>(rowCount, static_cast<int>(width));
+      std::copy(firstRow.begin(), firstRow.end(), &out.Get(static_cast<int>(row), 0));
       return;
     }
-    int* const cell = cells + row * width;
+    T* const cells = &out.Get(static_cast<int>(row), 0);
     std::size_t found = 0;
-    ForEachItem(labels, [&](od::value label, std::size_t column) {
+    ForEachItem(values, [&](od::value cell, std::size_t column) {
       if (column < width)
-        ReadInt(label, cell[column], row, column);
+        readCell(cell, cells[column], row, column);
       found = column + 1;
     });
     if (found != width && !Stopped())
-      ErrorAt("a connectivity row of " + std::to_string(found) + " nodes where the first row has " +
-                  std::to_string(width),
-              row);
+      ErrorAt(words.unevenRow(found, width), row);
   });
 }
 
-// A table is an array of rows of numbers, all rows of one length; the first
-// row fixes it.
+void Reader::Read(od::value value, cow_2DArray<int>& out) {
+  const RowWords words{"a connectivity row must name at least one node",
+                       [](std::size_t found, std::size_t width) {
+                         return "a connectivity row of " + std::to_string(found) +
+                                " nodes where the first row has " + std::to_string(width);
+                       }};
+  ReadRows(value, out, words,
+           [&](od::value label, int& cell, std::size_t row, std::size_t column) {
+             ReadInt(label, cell, row, column);
+           });
+}
+
 void Reader::Read(od::value value, kmaC_MaterialTable& out) {
-  od::array rows;
-  int rowCount = 0;
-  if (!GetArray(value, rows) || !CountItems(rows, rowCount))
-    return;
+  const RowWords words{"a table row must hold at least one value",
+                       [](std::size_t found, std::size_t width) {
+                         std::string what = "row has ";
+                         what.append(std::to_string(found));
+                         what.append(found == 1 ? " value" : " values");
+                         what.append(", rows above have ").append(std::to_string(width));
+                         return what;
+                       }};
   cow_2DArray<double> cells;
-  std::vector<double> firstRow;
-  std::size_t width = 0;
-  ForEachItem(rows, [&](od::value item, std::size_t row) {
-    if (row >= static_cast<std::size_t>(rowCount)) {
-      Fail(simdjson::TAPE_ERROR);
-      return;
-    }
-    od::array numbers;
-    if (!GetArray(item, numbers, row))
-      return;
-    if (width == 0) {
-      ForEachItem(numbers, [&](od::value number, std::size_t column) {
-        firstRow.push_back(0);
-        if (const simdjson::error_code error = number.get_double().get(firstRow.back()))
-          BadReal(number, error, row, column);
-      });
-      if (Stopped())
-        return;
-      if (firstRow.empty()) {
-        ErrorAt("a table row must hold at least one value", row);
-        return;
-      }
-      width = firstRow.size();
-      cells = cow_2DArray<double>(rowCount, static_cast<int>(width));
-      std::copy(firstRow.begin(), firstRow.end(), &cells.Get(static_cast<int>(row), 0));
-      return;
-    }
-    double* const cell = &cells.Get(static_cast<int>(row), 0);
-    std::size_t found = 0;
-    ForEachItem(numbers, [&](od::value number, std::size_t column) {
-      if (column < width) {
-        if (const simdjson::error_code error = number.get_double().get(cell[column]))
-          BadReal(number, error, row, column);
-      }
-      found = column + 1;
-    });
-    if (found != width && !Stopped()) {
-      std::string what = "row has ";
-      what.append(std::to_string(found)).append(found == 1 ? " value" : " values");
-      what.append(", rows above have ").append(std::to_string(width));
-      ErrorAt(what, row);
-    }
-  });
+  ReadRows(value, cells, words,
+           [&](od::value number, double& cell, std::size_t row, std::size_t column) {
+             if (const simdjson::error_code error = number.get_double().get(cell))
+               BadReal(number, error, row, column);
+           });
   out = kmaC_MaterialTable(cells);
 }
 
