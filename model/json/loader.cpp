@@ -342,6 +342,7 @@ private:
   }
   bool CountItems(od::array& array, int& count);
   template <class F> void ForEachItem(od::array& array, F&& read);
+  template <class F> void ForEachMember(od::object& object, F&& read);
   template <class F> void ForEachEntry(od::value value, F&& read);
   template <class M> void ReadHeaderField(od::object& root, std::string_view key, M& member);
   template <FieldRecord R> void ReadMembers(od::object& object, R& record);
@@ -532,12 +533,9 @@ template <class F> void Reader::ForEachItem(od::array& array, F&& read) {
   }
 }
 
-// Calls `read(value, key)` for each member of the object `value`, with the key
-// pushed on the path.
-template <class F> void Reader::ForEachEntry(od::value value, F&& read) {
-  od::object object;
-  if (!GetObject(value, object))
-    return;
+// Calls `read(value, key)` for each member of `object`, in file order; stops
+// when reading has stopped.
+template <class F> void Reader::ForEachMember(od::object& object, F&& read) {
   for (auto member : object) {
     od::field field;
     std::string_view key;
@@ -555,27 +553,24 @@ template <class F> void Reader::ForEachEntry(od::value value, F&& read) {
   }
 }
 
+// The same for the members of `value`, which must be an object.
+template <class F> void Reader::ForEachEntry(od::value value, F&& read) {
+  od::object object;
+  if (GetObject(value, object))
+    ForEachMember(object, read);
+}
+
 template <FieldRecord R> void Reader::ReadMembers(od::object& object, R& record) {
   std::uint64_t seen = 0;
   std::vector<std::string_view> droppedKeys;
-  for (auto member : object) {
-    od::field field;
-    std::string_view key;
-    if (const simdjson::error_code error = std::move(member).get(field)) {
-      Fail(error);
-      return;
-    }
-    if (const simdjson::error_code error = field.unescaped_key().get(key)) {
-      Fail(error);
-      return;
-    }
-    FieldReader reader(*this, key, field.value(), seen);
+  ForEachMember(object, [&](od::value value, std::string_view key) {
+    FieldReader reader(*this, key, value, seen);
     record.Fields(reader);
     if (!reader.Found())
       UnknownKey<R>(key, droppedKeys);
-    if (Stopped())
-      return;
-  }
+  });
+  if (Stopped())
+    return;
   FieldFinisher finisher(*this, seen);
   record.Fields(finisher);
 }
@@ -817,10 +812,9 @@ void Reader::Read(od::value value, cow_2DArray<int>& out) {
                          return "a connectivity row of " + std::to_string(found) +
                                 " nodes where the first row has " + std::to_string(width);
                        }};
-  ReadRows(value, out, words,
-           [&](od::value label, int& cell, std::size_t row, std::size_t column) {
-             ReadInt(label, cell, row, column);
-           });
+  ReadRows(value, out, words, [&](od::value label, int& cell, std::size_t row, std::size_t column) {
+    ReadInt(label, cell, row, column);
+  });
 }
 
 void Reader::Read(od::value value, kmaC_MaterialTable& out) {
