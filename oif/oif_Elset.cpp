@@ -54,6 +54,5 @@ void oif_Elset::Write(utl_Stream& s) const {
     return;
   WriteHead(s);
   s << endl;
-  for (const cow_String& member : memberSets_)
-    s << qkw_QuorvexName(member, false) << ", " << endl;
+  oif_Set::WriteMemberSets(s, memberSets_);
 }

@@ -47,6 +47,5 @@ void oif_Nset::WriteMap(utl_Stream& s) const {
 
 void oif_Nset::WriteList(utl_Stream& s) const {
   s << "*Nset, nset=" << setName_ << endl;
-  for (const cow_String& member : memberSets_)
-    s << qkw_QuorvexName(member, false) << ", " << endl;
+  oif_Set::WriteMemberSets(s, memberSets_);
 }

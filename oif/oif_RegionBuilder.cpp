@@ -37,34 +37,37 @@ void oif_RegionBuilder::CreateInstanceRegions(const ddb_PartInstance& instance) 
 
 void oif_RegionBuilder::CreateAssemblyRegions() {
   const ddb_Assembly& assembly = keydeck::FacadeOf(*model).Model().rootAssembly();
-  for (const ddb_Set& set : assembly.set()) {
-    const rgnC_SetData& data = set.set();
-    if (data.SetType() == res_FacetSet)
-      continue;
-    const bool nodes = data.SetType() == res_NodeSet;
-    cow_List<cow_String> scopesDone;
-    for (int i = 0; i < data.NumSubsets(); ++i) {
-      const int meshIndex = data.SubSet(i).MeshIndex();
-      for (const auto& [key, instance] : assembly.instance()) {
-        if (!instance->IsPartInstance())
-          continue;
-        const ddb_PartInstance& partInstance = keydeck::RecordCast<ddb_PartInstance>(*instance);
-        if (partInstance.mesh().meshIndex() != meshIndex || !scopesDone.AppendUnlessMember(key))
-          continue;
-        if (nodes)
-          AddAssemblyDefinition(oif_Nset(data, partInstance, key));
-        else
-          AddAssemblyDefinition(oif_Elset(data, partInstance, key));
-      }
-      if (meshIndex != assembly.mesh().meshIndex() || !scopesDone.AppendUnlessMember(""))
-        continue;
-      if (nodes)
-        AddAssemblyDefinition(oif_Nset(data, assembly));
-      else
-        AddAssemblyDefinition(oif_Elset(data, assembly));
-    }
-  }
+  for (const ddb_Set& set : assembly.set())
+    if (set.setType() != res_FacetSet)
+      CreateAssemblySet(assembly, set.set());
+  // All node and element sets of the assembly stand ahead of its surfaces.
   for (const ddb_Set& set : assembly.set())
     if (set.setType() == res_FacetSet)
       AddAssemblyDefinition(oif_Surface(set.set(), assembly));
+}
+
+void oif_RegionBuilder::CreateAssemblySet(const ddb_Assembly& assembly, const rgnC_SetData& data) {
+  // One card per instance (or the assembly's own mesh) that the set touches,
+  // in the order of the set's subsets.
+  cow_List<cow_String> scopesDone;
+  for (int i = 0; i < data.NumSubsets(); ++i) {
+    const int meshIndex = data.SubSet(i).MeshIndex();
+    for (const auto& [key, instance] : assembly.instance()) {
+      if (!instance->IsPartInstance())
+        continue;
+      const ddb_PartInstance& partInstance = keydeck::RecordCast<ddb_PartInstance>(*instance);
+      if (partInstance.mesh().meshIndex() == meshIndex && scopesDone.AppendUnlessMember(key))
+        AddAssemblySetCard(data, partInstance, key);
+    }
+    if (meshIndex == assembly.mesh().meshIndex() && scopesDone.AppendUnlessMember(""))
+      AddAssemblySetCard(data, assembly);
+  }
+}
+
+template <class... Scope>
+void oif_RegionBuilder::AddAssemblySetCard(const rgnC_SetData& data, const Scope&... scope) {
+  if (data.SetType() == res_NodeSet)
+    AddAssemblyDefinition(oif_Nset(data, scope...));
+  else
+    AddAssemblyDefinition(oif_Elset(data, scope...));
 }

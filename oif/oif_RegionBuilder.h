@@ -2,8 +2,10 @@
 
 #include "qkw/qkw_BuilderComponent.h"
 
+class ddb_Assembly;
 class ddb_PartInstance;
 class oif_ModelInfo;
+class rgnC_SetData;
 
 /// Files the model's sets as deck cards: the sets of each instance's mesh in
 /// the instance's block, the sets of the assembly in the assembly section,
@@ -18,4 +20,8 @@ public:
 private:
   void CreateInstanceRegions(const ddb_PartInstance& instance);
   void CreateAssemblyRegions();
+  void CreateAssemblySet(const ddb_Assembly& assembly, const rgnC_SetData& data);
+  /// The "*Nset" or "*Elset" card of a node or element set in one scope.
+  template <class... Scope>
+  void AddAssemblySetCard(const rgnC_SetData& data, const Scope&... scope);
 };

@@ -4,6 +4,7 @@
 #include "model/database.h"
 #include "model/element_types.h"
 #include "model/regions.h"
+#include "qkw/qkw_QuorvexName.h"
 
 #include <algorithm>
 #include <vector>
@@ -127,4 +128,9 @@ void oif_Set::WriteData(utl_Stream& s) const {
       s << ",";
   }
   s.Flush();
+}
+
+void oif_Set::WriteMemberSets(utl_Stream& s, const cow_List<cow_String>& members) {
+  for (const cow_String& member : members)
+    s << qkw_QuorvexName(member, false) << ", " << endl;
 }

@@ -30,6 +30,9 @@ public:
   const cow_List<int>& Labels() const { return labels_; }
   /// For a facet set, the face name of each label.
   const cow_List<cow_String> FaceList() const { return faceNames_; }
+  /// The data lines of a set made of other sets: one member's name a line,
+  /// quoted as needed, each followed by ", ".
+  static void WriteMemberSets(utl_Stream& s, const cow_List<cow_String>& members);
 
 private:
   void ComputeData(const rgnC_SetData& setData, const ddb_Mesh& mesh);
