@@ -17,6 +17,15 @@ namespace keydeck {
 
 namespace {
 
+// An element type stands bare on its "*Element" line, so it may hold only
+// what a bare word of the deck can.
+bool IsElementTypeLabel(std::string_view type) {
+  return !type.empty() && std::all_of(type.begin(), type.end(), [](char c) {
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '_' ||
+           c == '-';
+  });
+}
+
 // Finds the position of a label among the labels of a mesh. Labels that lie
 // close together (the usual numbering 1..n) are found through a table over
 // their range; scattered ones through an open-addressing hash table. Neither
@@ -219,6 +228,10 @@ private:
     if (elementClass.labels.Size() != rows)
       Error("elements/" + std::to_string(k), Count(elementClass.labels.Size(), "element label") +
                                                  " but " + Count(rows, "connectivity row"));
+    if (!IsElementTypeLabel(elementClass.type.View()))
+      Error("elements/" + std::to_string(k) + "/type",
+            "an element type is letters, digits, \"_\" and \"-\", found \"" +
+                std::string(elementClass.type.View()) + "\"");
     const shp_Shape& shape = labels_.shapes[static_cast<std::size_t>(k)];
     if (shape.nodes > 0 && rows > 0 && (cols < shape.fewestNodes || cols > shape.mostNodes))
       Error("elements/" + std::to_string(k) + "/connectivity",

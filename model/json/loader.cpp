@@ -31,6 +31,22 @@ namespace keydeck {
 
 namespace {
 
+// A name goes on deck lines, quoted where it needs to be. It must not be
+// empty; and the deck has no escape for a double quote inside quotes, while a
+// line end or another control character would break the line, so a name may
+// hold neither. Returns what is wrong, or nothing.
+std::string NameFault(std::string_view name) {
+  if (name.empty())
+    return "a name must not be empty";
+  const bool printable = std::none_of(name.begin(), name.end(), [](char c) {
+    return c == '"' || static_cast<unsigned char>(c) < 0x20;
+  });
+  if (printable)
+    return {};
+  return "the name " + QuotedJson(name) +
+         " holds a double quote or a control character, which a deck line cannot carry";
+}
+
 namespace od = simdjson::ondemand;
 
 // The warnings of a model that loads: what the deck leaves out for now. This
@@ -963,8 +979,8 @@ template <FieldRecord R> void Reader::Read(od::value value, cow_List<R>& out) {
 }
 
 bool Reader::AcceptName(std::string_view key, bool taken) {
-  if (key.empty()) {
-    Error("a name must not be empty");
+  if (const std::string fault = NameFault(key); !fault.empty()) {
+    Error(fault);
     return false;
   }
   if (taken)
@@ -1016,10 +1032,12 @@ void Reader::ReadStep(od::value value, std::size_t index, kprC_StepContainer& ou
   Read(value, step);
   if (errors_.Count() != before)
     return;
-  if (step.name.Empty() || out.IsMember(step.name)) {
+  std::string fault = NameFault(step.name.View());
+  if (fault.empty() && out.IsMember(step.name))
+    fault = "duplicate step name " + QuotedJson(step.name.View());
+  if (!fault.empty()) {
     PathScope name(*this, "name");
-    Error(step.name.Empty() ? "a step needs a name"
-                            : "duplicate step name " + QuotedJson(step.name.View()));
+    Error(fault);
     return;
   }
   out.Append(step.name, kprC_StepContainer::Handle(static_cast<const kprC_Step&>(step.step)));

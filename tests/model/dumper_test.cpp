@@ -136,13 +136,13 @@ TEST(Dumper, EscapesText) {
   ddb_Model model;
   model.solverInput_ = "a\"b\\c\nd\x01\x1f\t\xC3\xA9";
   ddb_Ddb ddb;
-  ddb.models_.Insert("M \"1\"", model);
+  ddb.models_.Insert("M \\1", model);
   const std::string dump = DumpModel(odb_Odb(ddb));
   EXPECT_NE(dump.find(R"("solverInput": "a\"b\\c\nd\u0001\u001f\t)"
                       "\xC3\xA9\""),
             std::string::npos);
   const odb_Odb reloaded = Load(dump);
-  EXPECT_EQ(reloaded.ddb().model("M \"1\"").solverInput(), model.solverInput_);
+  EXPECT_EQ(reloaded.ddb().model("M \\1").solverInput(), model.solverInput_);
 }
 
 // Reals of every magnitude go out and come back bit for bit: doubles in a

@@ -68,6 +68,17 @@ TEST(Loader, ModelMessages) {
                    "assembly": {"instances": {"": {"part": "P"}}}})"),
        {"models/M/parts: a name must not be empty", "models/M/materials: a name must not be empty",
         "models/M/assembly/instances: a name must not be empty"}},
+      {"names a deck line cannot carry",
+       InModel(R"({"parts": {"P\"1": {}}, "materials": {"M\r": {}}})"),
+       {R"(models/M/parts: the name "P\"1" holds a double quote or a control character, )"
+        "which a deck line cannot carry",
+        R"(models/M/materials: the name "M\r" holds a double quote or a control character, )"
+        "which a deck line cannot carry"}},
+      {"element type",
+       InModel(R"({"parts": {"P": {"nodes": {"labels": [1], "coordinates": [[0, 0, 0]]},
+                   "elements": [{"type": "C3D8R, elset=X", "labels": [], "connectivity": []}]}}})"),
+       {R"(models/M/parts/P/elements/0/type: an element type is letters, digits, "_" and "-", )"
+        R"(found "C3D8R, elset=X")"}},
       {"near miss",
        InModel(R"({"part": {}})"),
        {R"(models/M: unknown field "part"; did you mean "parts"?)"}},
@@ -243,7 +254,11 @@ TEST(Loader, StepMessages) {
       {"step without name", WithSteps(R"([{}])"), {R"(models/M/steps/0: missing field "name")"}},
       {"empty step name",
        WithSteps(R"([{"name": ""}])"),
-       {"models/M/steps/0/name: a step needs a name"}},
+       {"models/M/steps/0/name: a name must not be empty"}},
+      {"step name with a line end",
+       WithSteps(R"([{"name": "a\nb"}])"),
+       {R"(models/M/steps/0/name: the name "a\nb" holds a double quote or a control character, )"
+        "which a deck line cannot carry"}},
       {"unknown procedure",
        WithSteps(R"([{"name": "Initial"}, {"name": "S", "procedure": "statc"}])"),
        {R"(models/M/steps/1/procedure: unknown procedure "statc"; expected one of )" + procedures}},
