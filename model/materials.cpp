@@ -26,14 +26,14 @@ int kmaC_Elastic::DataColumns(TypeEnm type) {
 keydeck::TableColumns kmaC_Plastic::ExpectedColumns() const {
   // The rate path writes the strain rate in the header, whatever the hardening.
   if (rate)
-    return keydeck::DependentColumns(3, temperatureDependency, dependencies);
+    return Columns(3);
   switch (hardening) {
   case IsotropicHardening:
   case Kinematic:
   case Mixed:
-    return keydeck::DependentColumns(2, temperatureDependency, dependencies);
+    return Columns(2);
   case JohnsonCookHardening:
-    return keydeck::DependentColumns(6, temperatureDependency, dependencies);
+    return Columns(6);
   case User:
     // Only the first column is written, one property per row.
     return {.data = 1, .moreData = true};
@@ -42,25 +42,23 @@ keydeck::TableColumns kmaC_Plastic::ExpectedColumns() const {
   }
   switch (dataType) {
   case Parameters:
-    return keydeck::DependentColumns(1 + 2 * std::max(numBackstress, 0), temperatureDependency,
-                                     dependencies);
+    return Columns(1 + 2 * std::max(numBackstress, 0));
   case Stabilized:
-    return keydeck::DependentColumns(strainRangeDependency ? 3 : 2, temperatureDependency,
-                                     dependencies);
+    return Columns(strainRangeDependency ? 3 : 2);
   case NoDataType:
   case HalfCycle:
     break;
   }
-  return keydeck::DependentColumns(2, temperatureDependency, dependencies);
+  return Columns(2);
 }
 
 keydeck::TableColumns kmaC_Creep::ExpectedColumns() const {
   switch (law) {
   case Time:
   case Strain:
-    return keydeck::DependentColumns(3, temperatureDependency, dependencies);
+    return Columns(3);
   case Hyperbolic:
-    return keydeck::DependentColumns(5, temperatureDependency, dependencies);
+    return Columns(5);
   case UserLaw:
   case Anand:
   case PowerLaw:

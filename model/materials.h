@@ -64,31 +64,34 @@ constexpr TableColumns DependentColumns(int data, bool temperatureDependency, in
 
 } // namespace keydeck
 
-/// The three fields of every table that may depend on temperature and field
-/// variables, named once.
-template <class V>
-void DependentTableFields(V& v, bool& temperatureDependency, int& dependencies,
-                          kmaC_MaterialTable& table) {
-  v("temperatureDependency", temperatureDependency, false);
-  v("dependencies", dependencies, 0);
-  v("table", table);
-}
-
-/// A behaviour whose table depends on temperature and field variables and
-/// has no parameters of its own ("*Density", "*Specific Heat", ...). The tag
-/// names the behaviour and says how many data columns it has.
-template <class Tag> class kmaC_DependentTable {
+/// The table of a behaviour that may depend on temperature and field
+/// variables: the three fields that every such record has, named once. The
+/// records derive from it.
+class kmaC_DependentTableFields {
 public:
-  keydeck::TableColumns ExpectedColumns() const {
-    return keydeck::DependentColumns(Tag::DataColumns, temperatureDependency, dependencies);
+  /// The columns of the table with `data` data columns before the temperature
+  /// and field-variable columns.
+  keydeck::TableColumns Columns(int data) const {
+    return keydeck::DependentColumns(data, temperatureDependency, dependencies);
   }
-  template <class V> void Fields(V& v) {
-    DependentTableFields(v, temperatureDependency, dependencies, table);
+  template <class V> void TableFields(V& v) {
+    v("temperatureDependency", temperatureDependency, false);
+    v("dependencies", dependencies, 0);
+    v("table", table);
   }
 
   bool temperatureDependency = false;
   int dependencies = 0;
   kmaC_MaterialTable table;
+};
+
+/// A behaviour whose table depends on temperature and field variables and
+/// has no parameters of its own ("*Density", "*Specific Heat", ...). The tag
+/// names the behaviour and says how many data columns it has.
+template <class Tag> class kmaC_DependentTable : public kmaC_DependentTableFields {
+public:
+  keydeck::TableColumns ExpectedColumns() const { return Columns(Tag::DataColumns); }
+  template <class V> void Fields(V& v) { TableFields(v); }
 };
 
 /// A behaviour given by a plain table and nothing else ("*Gel", ...). The tag
@@ -153,7 +156,7 @@ using kmaC_PorousBulkModuli = kmaC_PlainTable<keydeck::MaterialTags::PorousBulkM
 using kmaC_CycledPlastic = kmaC_PlainTable<keydeck::MaterialTags::CycledPlastic>;
 
 /// "*Elastic": the elastic moduli, with optional failure limits.
-class kmaC_Elastic {
+class kmaC_Elastic : public kmaC_DependentTableFields {
 public:
   enum TypeEnm : int {
     Isotropic = 0,
@@ -166,15 +169,13 @@ public:
   };
   /// The data columns of each type of elasticity.
   static int DataColumns(TypeEnm type);
-  keydeck::TableColumns ExpectedColumns() const {
-    return keydeck::DependentColumns(DataColumns(type), temperatureDependency, dependencies);
-  }
+  keydeck::TableColumns ExpectedColumns() const { return Columns(DataColumns(type)); }
 
   template <class V> void Fields(V& v) {
     v("type", type, Isotropic);
     v("noCompression", noCompression, false);
     v("noTension", noTension, false);
-    DependentTableFields(v, temperatureDependency, dependencies, table);
+    TableFields(v);
     v("longTermModuli", moduli, 0);
     v("failStress", failStress, std::optional<kmaC_FailStress>());
     v("failStrain", failStrain, std::optional<kmaC_FailStrain>());
@@ -183,10 +184,7 @@ public:
   TypeEnm type = Isotropic;
   bool noCompression = false;
   bool noTension = false;
-  bool temperatureDependency = false;
-  int dependencies = 0;
   int moduli = 0; ///< non-zero: the moduli are long-term ones
-  kmaC_MaterialTable table;
   std::optional<kmaC_FailStress> failStress;
   std::optional<kmaC_FailStrain> failStrain;
 };
@@ -225,21 +223,16 @@ public:
 
 /// "*Rate Dependent": rate dependence of the yield stress. Each type has two
 /// data columns (a factor and a rate or an exponent).
-class kmaC_RateDependent {
+class kmaC_RateDependent : public kmaC_DependentTableFields {
 public:
   enum TypeEnm : int { Power = 0, YieldRatio = 1, JohnsonCook = 2 };
-  keydeck::TableColumns ExpectedColumns() const {
-    return keydeck::DependentColumns(2, temperatureDependency, dependencies);
-  }
+  keydeck::TableColumns ExpectedColumns() const { return Columns(2); }
   template <class V> void Fields(V& v) {
     v("type", type, Power);
-    DependentTableFields(v, temperatureDependency, dependencies, table);
+    TableFields(v);
   }
 
   TypeEnm type = Power;
-  bool temperatureDependency = false;
-  int dependencies = 0;
-  kmaC_MaterialTable table;
 };
 
 // The power law is the solver's default and is never named in the deck.
@@ -254,20 +247,15 @@ template <> struct keydeck::EnumTable<kmaC_RateDependent::TypeEnm> {
 
 /// "*Cyclic Hardening": the isotropic part of combined hardening, as a table
 /// of stress against plastic strain, or as three parameters.
-class kmaC_CyclicHardening {
+class kmaC_CyclicHardening : public kmaC_DependentTableFields {
 public:
-  keydeck::TableColumns ExpectedColumns() const {
-    return keydeck::DependentColumns(parameters ? 3 : 2, temperatureDependency, dependencies);
-  }
+  keydeck::TableColumns ExpectedColumns() const { return Columns(parameters ? 3 : 2); }
   template <class V> void Fields(V& v) {
-    DependentTableFields(v, temperatureDependency, dependencies, table);
+    TableFields(v);
     v("parameters", parameters, false);
   }
 
-  bool temperatureDependency = false;
-  int dependencies = 0;
   bool parameters = false;
-  kmaC_MaterialTable table;
 };
 
 /// "*Anneal Temperature": the temperature above which the material anneals.
@@ -286,7 +274,7 @@ public:
 };
 
 /// "*Plastic": the yield stress against plastic strain, with its companions.
-class kmaC_Plastic {
+class kmaC_Plastic : public kmaC_DependentTableFields {
 public:
   enum HardeningEnm : int {
     IsotropicHardening = 0,
@@ -310,7 +298,7 @@ public:
     v("dataType", dataType, NoDataType);
     v("strainRangeDependency", strainRangeDependency, false);
     v("numBackstress", numBackstress, 1);
-    DependentTableFields(v, temperatureDependency, dependencies, table);
+    TableFields(v);
     v("rateDependent", rateDependent, std::optional<kmaC_RateDependent>());
     v("potential", potential, std::optional<kmaC_Potential>());
     v("cyclicHardening", cyclicHardening, std::optional<kmaC_CyclicHardening>());
@@ -324,9 +312,6 @@ public:
   DataTypeEnm dataType = NoDataType;
   bool strainRangeDependency = false;
   int numBackstress = 1;
-  bool temperatureDependency = false;
-  int dependencies = 0;
-  kmaC_MaterialTable table;
   std::optional<kmaC_RateDependent> rateDependent;
   std::optional<kmaC_Potential> potential;
   std::optional<kmaC_CyclicHardening> cyclicHardening;
@@ -359,7 +344,7 @@ template <> struct keydeck::EnumTable<kmaC_Plastic::DataTypeEnm> {
 };
 
 /// "*Creep": the creep law and its table.
-class kmaC_Creep {
+class kmaC_Creep : public kmaC_DependentTableFields {
 public:
   enum LawEnm : int {
     Time = 0,
@@ -378,15 +363,12 @@ public:
 
   template <class V> void Fields(V& v) {
     v("law", law, Strain);
-    DependentTableFields(v, temperatureDependency, dependencies, table);
+    TableFields(v);
     v("ornl", ornl, std::optional<kmaC_Ornl>());
     v("potential", potential, std::optional<kmaC_Potential>());
   }
 
   LawEnm law = Strain;
-  bool temperatureDependency = false;
-  int dependencies = 0;
-  kmaC_MaterialTable table;
   std::optional<kmaC_Ornl> ornl;
   std::optional<kmaC_Potential> potential;
 };
@@ -408,7 +390,7 @@ template <> struct keydeck::EnumTable<kmaC_Creep::LawEnm> {
 };
 
 /// "*Viscous": the viscous part of a two-layer viscoplastic model.
-class kmaC_Viscous {
+class kmaC_Viscous : public kmaC_DependentTableFields {
 public:
   enum LawEnm : int { StrainLaw = 1, TimeLaw = 2, UserViscousLaw = 3 };
 
@@ -420,18 +402,15 @@ public:
               .moreData = true,
               .temperature = temperatureDependency,
               .fieldVariables = dependencies};
-    return keydeck::DependentColumns(4, temperatureDependency, dependencies);
+    return Columns(4);
   }
 
   template <class V> void Fields(V& v) {
     v("law", law, StrainLaw);
-    DependentTableFields(v, temperatureDependency, dependencies, table);
+    TableFields(v);
   }
 
   LawEnm law = StrainLaw;
-  bool temperatureDependency = false;
-  int dependencies = 0;
-  kmaC_MaterialTable table;
 };
 
 template <> struct keydeck::EnumTable<kmaC_Viscous::LawEnm> {
