@@ -361,7 +361,6 @@ public:
     SubsetCollector members;
     ddb_Set out = Named(name, set.internal, set.nodes ? res_NodeSet : res_ElementSet);
     if (set.nodes) {
-      members.Open(scope.meshIndex, -1);
       AddNodes(*set.nodes, scope, path + "/nodes", members);
     } else {
       AddElements(*set.elements, scope, path + "/elements", members);
@@ -378,7 +377,6 @@ public:
     SubsetCollector members;
     ddb_Set out = Named(name, surface.internal, surface.faces ? res_FacetSet : res_NodeSet);
     if (surface.nodes) {
-      members.Open(scope.meshIndex, -1);
       AddNodes(*surface.nodes, scope, path + "/nodes", members);
     } else {
       for (int i = 0; i < surface.faces->Size(); ++i) {
@@ -409,7 +407,6 @@ public:
       if (scope == nullptr)
         continue;
       if (set.nodes) {
-        members.Open(scope->meshIndex, -1);
         AddNodes(entry.labels, *scope, entryPath + "/labels", members);
       } else {
         AddElements(entry.labels, *scope, entryPath + "/labels", members);
@@ -432,7 +429,6 @@ public:
         const InstanceLabels& entry = surface.nodes->UncheckedConstGet(i);
         const std::string entryPath = path + "/nodes/" + std::to_string(i);
         if (const LabelScope* const scope = scopeOf(entry.instance, entryPath + "/instance")) {
-          members.Open(scope->meshIndex, -1);
           AddNodes(entry.labels, *scope, entryPath + "/labels", members);
         }
       }
@@ -503,8 +499,11 @@ private:
     Error(path, "no " + std::string(kind) + " " + std::to_string(label) + " in " + scope.where);
   }
 
+  // A node subset is made even when its list turns out empty, so that the
+  // set still names the mesh.
   void AddNodes(const LabelList& list, const LabelScope& scope, const std::string& path,
                 SubsetCollector& members) {
+    members.Open(scope.meshIndex, -1);
     Lookup(list, scope.labels->nodes, "node", scope, path,
            [&](int position, int) { members.Add(scope.meshIndex, -1, position); });
   }
