@@ -49,26 +49,17 @@ void JsonText::String(std::string_view text) {
   text_ += QuotedJson(text);
 }
 
-void JsonText::Integer(long long value) {
-  BeforeValue();
-  char digits[24];
-  const auto result = std::to_chars(digits, digits + sizeof digits, value);
-  text_.append(digits, result.ptr);
-}
-
-void JsonText::Real(double value) {
+// The shortest text that reads back as the same number.
+template <class T> void JsonText::Number(T value) {
   BeforeValue();
   char digits[32];
   const auto result = std::to_chars(digits, digits + sizeof digits, value);
   text_.append(digits, result.ptr);
 }
 
-void JsonText::Real(float value) {
-  BeforeValue();
-  char digits[32];
-  const auto result = std::to_chars(digits, digits + sizeof digits, value);
-  text_.append(digits, result.ptr);
-}
+void JsonText::Integer(long long value) { Number(value); }
+void JsonText::Real(double value) { Number(value); }
+void JsonText::Real(float value) { Number(value); }
 
 void JsonText::Boolean(bool value) {
   BeforeValue();

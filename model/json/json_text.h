@@ -41,6 +41,7 @@ private:
     bool empty;
   };
   void BeforeValue();
+  template <class T> void Number(T value);
   void NewLine();
 
   std::vector<Level> levels_;
