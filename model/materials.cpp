@@ -66,10 +66,7 @@ keydeck::TableColumns kmaC_Creep::ExpectedColumns() const {
   case DoublePowerLaw:
     break;
   }
-  return {.data = 1,
-          .moreData = true,
-          .temperature = temperatureDependency,
-          .fieldVariables = dependencies};
+  return SomeColumns();
 }
 
 void kmaC_MaterialTable::Sort(int column) {

@@ -74,6 +74,13 @@ public:
   keydeck::TableColumns Columns(int data) const {
     return keydeck::DependentColumns(data, temperatureDependency, dependencies);
   }
+  /// The same for a table whose number of data columns is not known: one
+  /// or more.
+  keydeck::TableColumns SomeColumns() const {
+    keydeck::TableColumns columns = Columns(1);
+    columns.moreData = true;
+    return columns;
+  }
   template <class V> void TableFields(V& v) {
     v("temperatureDependency", temperatureDependency, false);
     v("dependencies", dependencies, 0);
@@ -397,12 +404,7 @@ public:
   /// Four constants for time and strain hardening; a user law is not checked
   /// beyond one column.
   keydeck::TableColumns ExpectedColumns() const {
-    if (law == UserViscousLaw)
-      return {.data = 1,
-              .moreData = true,
-              .temperature = temperatureDependency,
-              .fieldVariables = dependencies};
-    return Columns(4);
+    return law == UserViscousLaw ? SomeColumns() : Columns(4);
   }
 
   template <class V> void Fields(V& v) {
