@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstring>
 #include <memory>
+#include <string_view>
 
 /// The deck stream: every byte of the deck passes through it on its way to a
 /// `qio_ostream`. It buffers the text, lays out numbers and keeps keyword
@@ -80,8 +81,9 @@ public:
     Append(text, std::strlen(text));
     return *this;
   }
-  utl_Stream& Print(const cow_String& text) {
-    Append(text.CStr(), static_cast<std::size_t>(text.Length()));
+  utl_Stream& Print(const cow_String& text) { return Print(text.View()); }
+  utl_Stream& Print(std::string_view text) {
+    Append(text.data(), text.size());
     return *this;
   }
   /// The integer right-aligned in `width` columns.

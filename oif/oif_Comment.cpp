@@ -12,7 +12,8 @@ void oif_Comment::Write(utl_Stream& s) const {
   while (position < text.size()) {
     const std::size_t lineEnd = text.find('\n', position);
     const std::size_t segmentEnd = lineEnd == std::string_view::npos ? text.size() : lineEnd;
-    s << "** " << cow_String(text.substr(position, segmentEnd - position)) << endl;
+    s << "** ";
+    s.Print(text.substr(position, segmentEnd - position)) << endl;
     if (lineEnd == text.size() - 1)
       s << "** " << endl;
     position = segmentEnd + 1;

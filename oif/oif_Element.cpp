@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <string>
 #include <string_view>
 
 namespace {
@@ -65,7 +64,8 @@ void oif_Element::WriteConnectivity(utl_Stream& s, const cow_List<int>& nodeLabe
   for (const int label : elementLabels)
     widestElement = std::max(widestElement, label);
   const int labelWidth = DecimalWidth(widestElement);
-  const cow_String indent(std::string_view(std::string(labelWidth + 1, ' ')));
+  constexpr std::string_view Blanks = "            "; // wider than any label and its comma
+  const std::string_view indent = Blanks.substr(0, static_cast<std::size_t>(labelWidth) + 1);
 
   const int* const labels = nodeLabels.GetCArray();
   for (int e = 0; e < elementLabels.Size(); ++e) {
@@ -80,7 +80,7 @@ void oif_Element::WriteConnectivity(utl_Stream& s, const cow_List<int>& nodeLabe
       }
       const int r = (j + 1) % 16;
       if (r == 1)
-        s << indent;
+        s.Print(indent);
       s.Print(node, nodeWidth) << (r == 0 ? ",\n" : ",");
     }
   }
