@@ -138,7 +138,7 @@ public:
     v("solverInput", solverInput_, cow_String());
   }
 
-  cow_String name_;
+  keydeck::DeckName name_{"Assembly"};
   ddb_InstanceContainer instances_;
   cow_String solverInput_;
   bool hasMesh_ = false;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/cow_String.h"
 #include "base/nex_Exception.h"
 
 #include <limits>
@@ -12,6 +13,17 @@ namespace keydeck {
 inline constexpr double NotGivenDouble = std::numeric_limits<double>::max();
 /// The mark of an integer that the model does not give.
 inline constexpr int NotGivenInt = 2147483647;
+
+/// A name that a deck line prints: an entry's name or a reference to one. The
+/// loader checks every field of this type with the one name rule (not empty,
+/// no double quote, no control character), so a record declares the check by
+/// the type of its member and nobody keeps a list of such fields.
+class DeckName : public cow_String {
+public:
+  DeckName() = default;
+  DeckName(const cow_String& text) : cow_String(text) {} // NOLINT: a name is a string
+  DeckName(const char* text) : cow_String(text) {}       // NOLINT: like a string literal
+};
 
 /// Type ids of the model records, all in one place so that they stay unique.
 /// Where the deck branches on an id the number is the one the deck's own

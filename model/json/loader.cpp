@@ -396,6 +396,7 @@ private:
 
   // One overload per kind of member.
   void Read(od::value value, cow_String& out);
+  void Read(od::value value, DeckName& out);
   void Read(od::value value, bool& out);
   void Read(od::value value, int& out) { ReadInt(value, out); }
   void Read(od::value value, double& out);
@@ -693,6 +694,15 @@ void Reader::Read(od::value value, cow_String& out) {
     return;
   }
   out = cow_String(text);
+}
+
+void Reader::Read(od::value value, DeckName& out) {
+  const int before = errors_.Count();
+  Read(value, static_cast<cow_String&>(out));
+  if (errors_.Count() != before)
+    return;
+  if (const std::string fault = NameFault(out.View()); !fault.empty())
+    Error(fault);
 }
 
 void Reader::Read(od::value value, bool& out) {
