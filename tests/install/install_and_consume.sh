@@ -47,6 +47,7 @@ cmake -S "$source/examples/cpp" -B "$work/example" -DCMAKE_PREFIX_PATH="$prefix"
 cmake --build "$work/example" >"$work/build.log" || fail "the example does not build"
 check_example "$work/example/write_deck" "$work/cmake"
 
+command -v pkg-config >/dev/null || fail "pkg-config is not installed"
 export PKG_CONFIG_PATH="$prefix/$libdir/pkgconfig"
 [ "$(pkg-config --modversion keydeck)" = "$version" ] || fail "keydeck.pc has another version"
 # shellcheck disable=SC2046,SC2086
