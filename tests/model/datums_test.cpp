@@ -1,3 +1,4 @@
+#include "model/json/dumper.h"
 #include "tests/model/loading.h"
 
 #include <gtest/gtest.h>
@@ -152,6 +153,30 @@ TEST(Datums, LoaderErrors) {
        {"models/M/assembly/instances/I: the datum \"D\" of its part is named \"I_D\" in the "
         "assembly, and another datum has that name"}},
   });
+}
+
+} // namespace
+
+namespace {
+
+TEST(Datums, DumpAndLoadKeepThem) {
+  const std::string json = PlacedModel(
+      R"(, "datums": {"Cyl": {"type": "cylindrical", "origin": [0, 0, 1], "point1": [1, 0, 1],
+          "point2": [0, 1, 1]}},
+      "materialOrientations": [{"region": "Beams", "datum": "Cyl", "axis": "axis2", "angle": 5}],
+      "beamOrientations": [{"region": "Beams", "direction": [0, 1, 0]}])",
+      "", R"(, "datums": {"G": {"type": "spherical", "point1": [1, 0, 0], "point2": [0, 1, 0]}})");
+  const std::string first = DumpModel(Load(json));
+  EXPECT_EQ(DumpModel(Load(first)), first);
+  const odb_Odb reloaded = Load(first);
+  const ddb_Model& model = OnlyModel(reloaded);
+  ASSERT_EQ(model.datums_.Size(), 3);
+  EXPECT_EQ(model.datum(2).CvtDatumCsys().GetCsysType(), dtu_Spherical);
+  const ptoC_MaterialOrientation& orientation =
+      InstanceOf(model, "I").materialOrientations().get(0).orientation();
+  EXPECT_EQ(orientation.axis, ptoC_MaterialOrientation::Axis2);
+  EXPECT_EQ(orientation.angle, 5);
+  EXPECT_EQ(InstanceOf(model, "I").beamOrientations().size(), 1);
 }
 
 } // namespace
