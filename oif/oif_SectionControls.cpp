@@ -25,33 +25,32 @@ void oif_SectionControls::Write(utl_Stream& s) const {
   s << "*Section Controls, name=" << name_;
   WriteParameters(s);
   s << endl;
-  const bme_ElemCtrlParams& p = params_;
-  s << p.scale1 << ", " << p.scale2 << ", " << p.scale3;
-  if (Differs(p.scale4, 1.0) || Differs(p.scale5, 1.0))
-    s << ", " << p.scale4 << ", " << p.scale5;
+  s << params_.scale1 << ", " << params_.scale2 << ", " << params_.scale3;
+  if (Differs(params_.scale4, 1.0) || Differs(params_.scale5, 1.0))
+    s << ", " << params_.scale4 << ", " << params_.scale5;
   s << endl;
 }
 
 // The keyword line never breaks: its parameters follow one another without
 // an optional line break.
 void oif_SectionControls::WriteParameters(utl_Stream& s) const {
-  using P = bme_ElemCtrlParams;
-  const P& p = params_;
-  if (p.distortionControl == P::Yes) {
+  using Params = bme_ElemCtrlParams;
+  if (params_.distortionControl == Params::Yes) {
     s << ", DISTORTION CONTROL=YES";
-    if (Differs(p.lengthRatio, P::DefaultLengthRatio))
-      s << ", length ratio=" << p.lengthRatio;
-  } else if (p.distortionControl == P::No) {
+    if (Differs(params_.lengthRatio, Params::DefaultLengthRatio))
+      s << ", length ratio=" << params_.lengthRatio;
+  } else if (params_.distortionControl == Params::No) {
     s << ", DISTORTION CONTROL=NO";
   }
-  if (p.kinematicSplit != P::AverageStrain)
-    s << ", kinematic split=" << keydeck::EnumDeckText(p.kinematicSplit);
-  if (p.hourglass != P::DefaultHourglass)
-    s << ", hourglass=" << keydeck::EnumDeckText(p.hourglass);
-  if (p.secondOrderAccuracy == P::Yes)
+  if (params_.kinematicSplit != Params::AverageStrain)
+    s << ", kinematic split=" << keydeck::EnumDeckText(params_.kinematicSplit);
+  if (params_.hourglass != Params::DefaultHourglass)
+    s << ", hourglass=" << keydeck::EnumDeckText(params_.hourglass);
+  if (params_.secondOrderAccuracy == Params::Yes)
     s << ", second order accuracy=YES";
-  if (p.stressRate == P::Spin)
+  if (params_.stressRate == Params::Spin)
     s << ", stress rate=SPIN";
-  if (p.hourglass == P::Combined && Differs(p.weightFactor, P::DefaultWeightFactor))
-    s << ", weight factor=" << p.weightFactor;
+  if (params_.hourglass == Params::Combined &&
+      Differs(params_.weightFactor, Params::DefaultWeightFactor))
+    s << ", weight factor=" << params_.weightFactor;
 }

@@ -77,33 +77,35 @@ TEST(SectionCompanionCards, EmptyMassAndInertia) {
 }
 
 TEST(SectionCompanionCards, SectionControlsParameters) {
-  using P = bme_ElemCtrlParams;
-  P params;
-  params.distortionControl = P::Yes;
-  params.kinematicSplit = P::Centroid;
-  params.hourglass = P::Combined;
+  using Params = bme_ElemCtrlParams;
+  Params params;
+  params.distortionControl = Params::Yes;
+  params.kinematicSplit = Params::Centroid;
+  params.hourglass = Params::Combined;
   params.weightFactor = 0.75;
-  params.secondOrderAccuracy = P::Yes;
-  params.stressRate = P::Spin;
+  params.secondOrderAccuracy = Params::Yes;
+  params.stressRate = Params::Spin;
   params.scale1 = 0.5;
   EXPECT_EQ(DeckText(oif_SectionControls(params, "EC-1", false)),
             "*Section Controls, name=EC-1, DISTORTION CONTROL=YES, kinematic split=CENTROID, "
             "hourglass=COMBINED, second order accuracy=YES, stress rate=SPIN, weight factor=0.75\n"
             "0.5, 1., 1.\n");
-  params = P();
-  params.distortionControl = P::No;
-  params.kinematicSplit = P::Orthogonal;
-  params.hourglass = P::Enhanced;
+  params = Params();
+  params.distortionControl = Params::No;
+  params.kinematicSplit = Params::Orthogonal;
+  params.hourglass = Params::Enhanced;
   params.weightFactor = 0.75; // only beside a combined hourglass control
   params.scale5 = 2;
   EXPECT_EQ(DeckText(oif_SectionControls(params, "EC-2", false)),
             "*Section Controls, name=EC-2, DISTORTION CONTROL=NO, kinematic split=ORTHOGONAL, "
             "hourglass=ENHANCED\n1., 1., 1., 1., 2.\n");
-  const std::pair<P::HourglassEnm, const char*> hourglass[] = {
-      {P::RelaxStiffness, "RELAX STIFFNESS"}, {P::Stiffness, "STIFFNESS"}, {P::Viscous, "VISCOUS"}};
+  const std::pair<Params::HourglassEnm, const char*> hourglass[] = {
+      {Params::RelaxStiffness, "RELAX STIFFNESS"},
+      {Params::Stiffness, "STIFFNESS"},
+      {Params::Viscous, "VISCOUS"}};
   for (const auto& [value, text] : hourglass) {
     SCOPED_TRACE(text);
-    params = P();
+    params = Params();
     params.hourglass = value;
     EXPECT_EQ(DeckText(oif_SectionControls(params, "EC-3", true)),
               std::string("*Section Controls, name=EC-3, hourglass=") + text + "\n1., 1., 1.\n");
@@ -125,22 +127,22 @@ TEST(SectionCompanionCards, SectionControlsLengthRatioWithinTolerance) {
 // The implicit solver's library reads the hourglass control and its scale
 // factors; the explicit solver's reads every section control setting.
 TEST(SectionCompanionCards, SectionControlsEmptyByLibrary) {
-  using P = bme_ElemCtrlParams;
-  EXPECT_TRUE(oif_SectionControls(P(), "EC-0", true).IsEmpty());
-  EXPECT_TRUE(oif_SectionControls(P(), "EC-0", false).IsEmpty());
-  EXPECT_EQ(DeckText(oif_SectionControls(P(), "EC-0", false)), "");
+  using Params = bme_ElemCtrlParams;
+  EXPECT_TRUE(oif_SectionControls(Params(), "EC-0", true).IsEmpty());
+  EXPECT_TRUE(oif_SectionControls(Params(), "EC-0", false).IsEmpty());
+  EXPECT_EQ(DeckText(oif_SectionControls(Params(), "EC-0", false)), "");
 
-  P explicitOnly;
-  explicitOnly.distortionControl = P::Yes;
+  Params explicitOnly;
+  explicitOnly.distortionControl = Params::Yes;
   EXPECT_TRUE(oif_SectionControls(explicitOnly, "EC-1", true).IsEmpty());
   EXPECT_FALSE(oif_SectionControls(explicitOnly, "EC-1", false).IsEmpty());
 
-  P scaled;
+  Params scaled;
   scaled.scale2 = 0.5;
   EXPECT_FALSE(oif_SectionControls(scaled, "EC-2", true).IsEmpty());
   EXPECT_FALSE(oif_SectionControls(scaled, "EC-2", false).IsEmpty());
 
-  P bulk; // bulk viscosity within the card's tolerance of its default
+  Params bulk; // bulk viscosity within the card's tolerance of its default
   bulk.scale4 = 1.0000001;
   EXPECT_TRUE(oif_SectionControls(bulk, "EC-3", false).IsEmpty());
   bulk.scale4 = 1.5;
@@ -149,27 +151,27 @@ TEST(SectionCompanionCards, SectionControlsEmptyByLibrary) {
 }
 
 TEST(SectionCompanionCards, ElementControlDefaultsByLibrary) {
-  using P = bme_ElemCtrlParams;
+  using Params = bme_ElemCtrlParams;
   for (int library : {0, 1, 2})
-    EXPECT_TRUE(P().IsDefault(library)) << library;
-  P stiff;
+    EXPECT_TRUE(Params().IsDefault(library)) << library;
+  Params stiff;
   stiff.hourglassStiffness2 = 5;
   EXPECT_FALSE(stiff.IsDefault(1));
   EXPECT_TRUE(stiff.IsDefault(2)); // an explicit job gets no stiffness card
   EXPECT_FALSE(stiff.IsDefault(0));
-  P split;
-  split.kinematicSplit = P::Orthogonal;
+  Params split;
+  split.kinematicSplit = Params::Orthogonal;
   EXPECT_TRUE(split.IsDefault(1));
   EXPECT_FALSE(split.IsDefault(2));
   EXPECT_FALSE(split.IsDefault(0));
   // Equal controls are found again by any difference at all.
-  EXPECT_FALSE(P() != P());
-  P ratio;
+  EXPECT_FALSE(Params() != Params());
+  Params ratio;
   ratio.lengthRatio = 0.1000001;
-  EXPECT_TRUE(ratio != P());
-  P library;
+  EXPECT_TRUE(ratio != Params());
+  Params library;
   library.library = 2;
-  EXPECT_TRUE(library != P());
+  EXPECT_TRUE(library != Params());
 }
 
 TEST(SectionCompanionCards, HourglassStiffness) {
