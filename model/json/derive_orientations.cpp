@@ -70,19 +70,21 @@ void CheckRegion(const ddb_Part& part, const cow_String& region, const std::stri
 
 // Checks the orientations of one part and points its material orientations
 // at the part's datums.
-void DerivePartOrientations(ddb_Part& part, const DatumIds& datumIds, const std::string& path,
-                            LoadErrors& errors) {
+void DerivePartOrientations(ddb_Part& part, const DatumIds& datumIds, bool setsKnown,
+                            const std::string& path, LoadErrors& errors) {
   for (int i = 0; i < part.beamOrientations_.Size(); ++i) {
     const ptoC_BeamOrientation& orientation = part.beamOrientations_.ConstGet(i);
     const std::string at = path + "/beamOrientations/" + std::to_string(i);
-    CheckRegion(part, orientation.regionName_, at, errors);
+    if (setsKnown)
+      CheckRegion(part, orientation.regionName_, at, errors);
     if (orientation.Direction().ComputeMagnitude() == 0)
       errors.Add(at + "/direction", "the direction has zero length");
   }
   for (int i = 0; i < part.materialOrientations_.Size(); ++i) {
     ptoC_MaterialOrientation& orientation = part.materialOrientations_.Get(i);
     const std::string at = path + "/materialOrientations/" + std::to_string(i);
-    CheckRegion(part, orientation.regionName_, at, errors);
+    if (setsKnown)
+      CheckRegion(part, orientation.regionName_, at, errors);
     if (orientation.datumName_.Empty())
       continue;
     const auto datum = datumIds.find(orientation.datumName_);
@@ -115,16 +117,20 @@ cow_List<Held> PlacedOrientations(const ddb_Model& model, const cow_String& inst
 void DeriveDatumsAndOrientations(std::string_view modelPath, ddb_Model& model, LoadErrors& errors) {
   const std::string path(modelPath);
   model.datums_ = cow_List<ddb_Datum>();
-  std::map<cow_String, DatumIds> partDatumIds;
   cow_Btree<cow_String, ddb_Part>& parts = model.parts_.parts_;
   for (const cow_String& partName : parts.Keys()) {
     ddb_Part& part = parts.Get(partName);
     const std::string partPath = path + "/parts/" + std::string(partName.View());
     DeriveAxes(part.datums_, partPath, errors);
-    DatumIds& ids = partDatumIds[partName];
+    DatumIds ids;
     for (const auto& [name, csys] : part.datums_)
       ids[name] = AddDatum(model, name, csys);
-    DerivePartOrientations(part, ids, partPath, errors);
+    // A set of a part whose mesh or sets have faults may be missing for that
+    // reason alone; such a part's regions go unchecked.
+    const bool setsKnown = !errors.AnyAtOrUnder(partPath + "/nodes") &&
+                           !errors.AnyAtOrUnder(partPath + "/elements") &&
+                           !errors.AnyAtOrUnder(partPath + "/sets");
+    DerivePartOrientations(part, ids, setsKnown, partPath, errors);
   }
   ddb_Assembly& assembly = model.assembly_;
   DeriveAxes(assembly.datums_, path + "/assembly", errors);
