@@ -35,6 +35,7 @@ inline constexpr unsigned AnalysisStep = 37486593; // 0x23C0001
 inline constexpr unsigned LoadCase = 37486800;
 inline constexpr unsigned PartInstance = 37490000;
 inline constexpr unsigned GasketSection = 0x2600018;
+inline constexpr unsigned PointSection = 0x2600019;
 inline constexpr unsigned Material = 37500000;
 } // namespace TypeIds
 

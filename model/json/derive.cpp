@@ -1,5 +1,6 @@
 #include "model/json/derive.h"
 
+#include "model/json/derive_orientations.h"
 #include "model/json/json_text.h"
 
 #include <algorithm>
@@ -714,6 +715,7 @@ void DeriveModel(std::string_view modelPath, ddb_Model& model, LoadErrors& error
   }
   DeriveInstances(modelPath, model, errors);
   DeriveAssemblySets(modelPath, model, partLabels, errors);
+  DeriveDatumsAndOrientations(modelPath, model, errors);
 }
 
 } // namespace keydeck

@@ -33,6 +33,7 @@ namespace keydeck {
 /// - The assembly's sets and surfaces: `sets_`, one subset per instance mesh
 ///   and class in order of first appearance. The assembly's own mesh has
 ///   index 0.
+/// - Datums and orientations: `DeriveDatumsAndOrientations`.
 void DeriveModel(std::string_view modelPath, ddb_Model& model, LoadErrors& errors);
 
 } // namespace keydeck
