@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/database.h"
+#include "model/json/external_arrays.h"
 #include "model/json/load_errors.h"
 
 #include <string>
@@ -23,5 +24,10 @@ odb_Odb LoadModelFile(const char* path, std::vector<std::string>& warnings);
 /// `LoadModelFile` for a model file's text already in memory. Problems with
 /// the text as a whole carry no path.
 odb_Odb LoadModelText(std::string_view json, std::vector<std::string>& warnings);
+
+/// `LoadModelText` for a text whose numeric arrays stand in `arrays` (see
+/// external_arrays.h); each is read and checked as the array it stands for.
+odb_Odb LoadModelText(std::string_view json, const ExternalArrays& arrays,
+                      std::vector<std::string>& warnings);
 
 } // namespace keydeck
