@@ -12,6 +12,8 @@ def _import(arguments):
 
     try:
         mesh = meshio.read(arguments.mesh)
+    except SystemExit:  # meshio's way to refuse a file of no format it knows
+        raise OSError("%s: meshio cannot read the file" % arguments.mesh) from None
     except Exception as failure:  # meshio raises many kinds for a file it cannot read
         raise OSError("%s: %s" % (arguments.mesh, failure)) from failure
     model = Model.from_dict(from_meshio(mesh, part=arguments.part, shell=arguments.shell, ignore=arguments.ignore))
