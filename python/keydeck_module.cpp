@@ -8,6 +8,7 @@
 #include "model/json/schema.h"
 #include "oif/oif_Builder.h"
 #include "oif/oif_ModelInfo.h"
+#include "python/json_to_python.h"
 #include "python/python_to_json.h"
 
 #include <exception>
@@ -123,6 +124,12 @@ PYBIND11_MODULE(_keydeck, module) {
              return names;
            })
       .def("dump", [](const LoadedModel& loaded) { return DumpModel(loaded.odb); })
+      .def(
+          "to_python",
+          [](const LoadedModel& loaded, bool numpy) {
+            return PythonFromJson(DumpModel(loaded.odb), numpy);
+          },
+          py::arg("numpy"))
       .def("writer_problems", &WriterProblems)
       .def("write", &WriteDeck, py::arg("job"), py::arg("folder"), py::arg("model"));
 

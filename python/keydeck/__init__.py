@@ -86,9 +86,13 @@ class Model:
         """The model file's text: loading it gives back this model."""
         return self._loaded.dump()
 
-    def to_dict(self):
-        """The model as a dict of the model file's structure (plain lists)."""
-        return _json.loads(self._loaded.dump())
+    def to_dict(self, numpy=False):
+        """The model as a dict of the model file's structure, as loading the
+        model file's text with the json module gives it. With `numpy`, every
+        array of numbers is a numpy array instead (2-D for an array of equal
+        rows; int64 when all its numbers are integers, else float64): the
+        fast form for a large mesh."""
+        return self._loaded.to_python(bool(numpy))
 
     def check(self):
         """Every problem of the model, as a list of Problem: the warnings of

@@ -230,3 +230,14 @@ def test_schema_is_the_file_schema():
 def test_missing_file_names_the_path(tmp_path, messages):
     path = tmp_path / "none.json"
     assert messages(lambda: keydeck.load(path)) == [str(path) + ": no such file"]
+
+
+def test_to_dict_gives_numpy_arrays_for_arrays_of_numbers(tmp_path):
+    model = keydeck.load(GOLDEN / "materials.json")
+    plain, arrays = model.to_dict(), model.to_dict(numpy=True)
+    assert plain == json.loads(model.to_json())
+    part = at(arrays, ["models", "Default Model", "parts", "Block"])
+    assert part["nodes"]["labels"].dtype == np.int64 and part["nodes"]["coordinates"].shape == (12, 3)
+    table = at(arrays, ["models", "Default Model", "materials", "Steel", "elastic", "table"])
+    assert table.dtype == np.float64 and table.tolist() == [[210000, 0.3, 20], [175000, 0.3, 400]]
+    assert write_deck(keydeck.Model.from_dict(arrays), tmp_path) == golden_deck("materials")
