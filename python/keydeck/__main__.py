@@ -16,7 +16,9 @@ def _import(arguments):
         raise OSError("%s: meshio cannot read the file" % arguments.mesh) from None
     except Exception as failure:  # meshio raises many kinds for a file it cannot read
         raise OSError("%s: %s" % (arguments.mesh, failure)) from failure
-    model = Model.from_dict(from_meshio(mesh, part=arguments.part, shell=arguments.shell, ignore=arguments.ignore))
+    lower = "nodes" if arguments.lower_as_nodes else "elements"
+    model = Model.from_dict(
+        from_meshio(mesh, part=arguments.part, shell=arguments.shell, ignore=arguments.ignore, lower=lower))
     with open(arguments.output, "w", encoding="utf-8") as out:
         out.write(model.to_json())
 
@@ -29,6 +31,8 @@ def main(argv=None):
     command.add_argument("-o", "--output", required=True, help="the model file to write")
     command.add_argument("--part", default="Part-1", help="the name of the part (default Part-1)")
     command.add_argument("--shell", action="store_true", help="cells of two dimensions as shells")
+    command.add_argument("--lower-as-nodes", action="store_true",
+                         help="cells below the mesh's dimension as node sets, not elements")
     command.add_argument("--ignore", nargs="*", default=[], metavar="TYPE",
                          help="meshio cell types to leave out")
     arguments = parser.parse_args(argv)

@@ -52,13 +52,27 @@ def _nodes(mesh):
     return {"labels": _np.arange(1, len(points) + 1, dtype=_np.int32), "coordinates": points}
 
 
-def _elements(mesh, shell, ignore):
+def _dimension(cell_type):
+    return 0 if cell_type == _POINT_CELLS else _CELL_DIMENSIONS.get(cell_type, 3)
+
+
+def _node_blocks(mesh, lower):
+    """Per cell block, whether its cells only name nodes: cells of points, and
+    with lower="nodes" the cells below the mesh's highest dimension."""
+    if lower not in ("elements", "nodes"):
+        raise ValueError('lower must be "elements" or "nodes", not %r' % (lower,))
+    highest = max((_dimension(block.type) for block in mesh.cells), default=0)
+    return [block.type == _POINT_CELLS or (lower == "nodes" and _dimension(block.type) < highest)
+            for block in mesh.cells]
+
+
+def _elements(mesh, shell, ignore, node_blocks):
     """The element classes, and per cell block the labels of its cells (None for
     a block that gives no elements)."""
     classes, block_labels = [], []
     next_label = 1
     for index, block in enumerate(mesh.cells):
-        if block.type == _POINT_CELLS or block.type in ignore:
+        if node_blocks[index] or block.type in ignore:
             block_labels.append(None)
             continue
         deck_type, order = _deck_type(block.type, index, shell)
@@ -84,8 +98,7 @@ def _cell_groups(mesh):
             continue
         blocks = []
         for block, tags in zip(mesh.cells, physical):
-            cell_dimension = 0 if block.type == _POINT_CELLS else _CELL_DIMENSIONS.get(block.type)
-            match = _np.flatnonzero(_np.asarray(tags) == tag) if cell_dimension == dimension else []
+            match = _np.flatnonzero(_np.asarray(tags) == tag) if _dimension(block.type) == dimension else []
             blocks.append(match if len(match) else None)
         groups[name] = blocks
     return groups
@@ -97,28 +110,30 @@ _CELL_DIMENSIONS = {
 }
 
 
-def _sets(mesh, block_labels):
+def _sets(mesh, block_labels, node_blocks):
     sets = {name: {"nodes": _np.asarray(indices, dtype=_np.int64) + 1} for name, indices in mesh.point_sets.items()}
     for name, blocks in _cell_groups(mesh).items():
         elements, nodes = [], []
-        for block, labels, indices in zip(mesh.cells, block_labels, blocks):
+        for block, labels, indices, of_nodes in zip(mesh.cells, block_labels, blocks, node_blocks):
             if indices is None or len(indices) == 0:
                 continue
             indices = _np.asarray(indices, dtype=_np.int64)
             if labels is not None:
                 elements.append(labels[indices])
-            elif block.type == _POINT_CELLS:
+            elif of_nodes:
                 nodes.append(_np.asarray(block.data)[indices].ravel() + 1)
         if not elements and not nodes:
             continue
         if name in sets:
             _fail("cell_sets/" + name, 'the set "%s" is also a point set of the mesh' % name)
-        kind, parts = ("elements", elements) if elements else ("nodes", nodes)
-        sets[name] = {kind: _np.concatenate(parts)}
+        if elements:
+            sets[name] = {"elements": _np.concatenate(elements)}
+        else:
+            sets[name] = {"nodes": _np.unique(_np.concatenate(nodes))}
     return sets
 
 
-def from_meshio(mesh, part="Part-1", shell=False, ignore=()):
+def from_meshio(mesh, part="Part-1", shell=False, ignore=(), lower="elements"):
     """A model file's structure (a dict) holding the meshio `mesh` as part
     `part`, with one instance of it named PART-1 and the initial step.
 
@@ -128,7 +143,10 @@ def from_meshio(mesh, part="Part-1", shell=False, ignore=()):
     dimensions become plane-stress elements, or shells when `shell` is true.
     Node orders are converted where meshio's differs from the deck's. A cell
     type of no deck equivalent is an error that names it, unless it is in
-    `ignore`; cells of single points ("vertex") give no elements.
+    `ignore`; cells of single points ("vertex") give no elements. With
+    lower="nodes", neither do the cells of a lower dimension than the mesh's
+    highest (the faces that a gmsh mesh of a solid holds for its surface
+    groups): their sets become node sets.
 
     Point sets become node sets; cell sets, and the physical groups of a gmsh
     mesh, become element sets of the same name (node sets for groups of
@@ -136,9 +154,10 @@ def from_meshio(mesh, part="Part-1", shell=False, ignore=()):
     without a Python loop over the mesh.
     """
     ignore = set(ignore)
-    classes, block_labels = _elements(mesh, shell, ignore)
+    node_blocks = _node_blocks(mesh, lower)
+    classes, block_labels = _elements(mesh, shell, ignore, node_blocks)
     body = {"nodes": _nodes(mesh), "elements": classes}
-    sets = _sets(mesh, block_labels)
+    sets = _sets(mesh, block_labels, node_blocks)
     if sets:
         body["sets"] = sets
     return {

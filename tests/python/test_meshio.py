@@ -143,6 +143,13 @@ def test_sets_and_physical_groups_arrive_with_their_labels():
                             "Solid": {"elements": [3, 4]}, "Tip": {"nodes": [4]}}
 
 
+def test_cells_of_a_lower_dimension_may_name_nodes_only():
+    part = part_of(keydeck.Model.from_dict(keydeck.from_meshio(two_blocks(), lower="nodes")).to_dict())
+    assert [(c["type"], c["labels"]) for c in part["elements"]] == [("C3D4", [1, 2])]
+    assert part["sets"] == {"Apex": {"nodes": [5]}, "Bottom": {"nodes": [1, 2, 3]}, "Slant": {"nodes": [2, 3, 5]},
+                            "Solid": {"elements": [1, 2]}, "Tip": {"nodes": [4]}}
+
+
 def test_a_gmsh_file_through_the_import_command(tmp_path):
     mesh_file, model_file = tmp_path / "block.msh", tmp_path / "block.json"
     meshio.write(str(mesh_file), two_blocks(), file_format="gmsh22", binary=False)
