@@ -19,10 +19,15 @@ namespace {
 // hand for messages in the loader's form.
 class Walker {
 public:
+  static constexpr std::size_t MaxDepth = 1000;
+
   explicit Walker(PythonModelText& out)
       : out_(out), generic_(py::module_::import("numpy").attr("generic")) {}
 
   void Value(py::handle value) {
+    // As deep as the loader reads; a structure that holds itself stops here too.
+    if (path_.size() > MaxDepth)
+      Fail("the value nests deeper than " + std::to_string(MaxDepth) + " levels");
     PyObject* const object = value.ptr();
     if (object == Py_None)
       out_.json += "null";

@@ -104,11 +104,12 @@ bool Fits(const ExternalArray& array, std::size_t dimensions, const ArrayFaultSi
           0, 0, 0);
     return false;
   }
-  if (array.shape[0] > INT_MAX) {
-    fault("expected at most " + std::to_string(INT_MAX) + " items, found " +
-              std::to_string(array.shape[0]),
-          0, 0, 0);
-    return false;
+  for (const std::int64_t size : array.shape) {
+    if (size > INT_MAX) {
+      fault("expected at most " + std::to_string(INT_MAX) + " items, found " + std::to_string(size),
+            0, 0, 0);
+      return false;
+    }
   }
   return true;
 }
@@ -219,7 +220,7 @@ void ReadRows(const ExternalArray& array, cow_2DArray<T>& out, const char* empty
   }
   if (rows == 0)
     return;
-  out = cow_2DArray<T>(rows, static_cast<int>(std::min<std::int64_t>(array.shape[1], INT_MAX)));
+  out = cow_2DArray<T>(rows, static_cast<int>(array.shape[1]));
   ReadInto(array, &out.Get(0, 0), fault);
 }
 

@@ -241,3 +241,13 @@ def test_to_dict_gives_numpy_arrays_for_arrays_of_numbers(tmp_path):
     table = at(arrays, ["models", "Default Model", "materials", "Steel", "elastic", "table"])
     assert table.dtype == np.float64 and table.tolist() == [[210000, 0.3, 20], [175000, 0.3, 400]]
     assert write_deck(keydeck.Model.from_dict(arrays), tmp_path) == golden_deck("materials")
+
+
+def test_a_structure_that_holds_itself_is_refused(messages):
+    d = golden_dict("bracket")
+    loop = []
+    loop.append(loop)
+    at(d, BRACKET)["solverInput"] = loop
+    [message] = messages(lambda: keydeck.Model.from_dict(d))
+    assert message.startswith("models/Default Model/parts/Bracket/solverInput/0/0/")
+    assert message.endswith(": the value nests deeper than 1000 levels")
