@@ -1,7 +1,6 @@
 #pragma once
 
 #include "model/database.h"
-#include "model/json/external_arrays.h"
 #include "model/json/load_errors.h"
 
 #include <string>
@@ -9,6 +8,8 @@
 #include <vector>
 
 namespace keydeck {
+
+class ExternalArrays;
 
 /// Opens the model file at `path` (the format is described in
 /// docs/model-format.md) and returns the database it holds, with everything
