@@ -30,7 +30,7 @@ public:
   ddb_Mesh mesh_; ///< its `sets` are derived after loading from the two maps below
   cow_Btree<cow_String, keydeck::PartSet> setDefinitions_;
   cow_Btree<cow_String, keydeck::PartSurface> surfaceDefinitions_;
-  cow_String solverInput_;
+  keydeck::SolverText solverInput_;
 };
 
 /// The parts of a model by name, in ascending byte order of the name.
@@ -106,10 +106,10 @@ public:
     v("solverInput", solverInput_, cow_String());
   }
 
-  cow_String partName_;
+  keydeck::DeckName partName_;
   std::array<double, 3> translation_{0, 0, 0};
   std::optional<keydeck::InstanceRotation> rotation_;
-  cow_String solverInput_;
+  keydeck::SolverText solverInput_;
   // Derived after loading:
   cow_String name_; ///< the instance's key in the assembly
   ddb_Mesh mesh_;   ///< the part's mesh and sets with this instance's mesh index
@@ -140,7 +140,7 @@ public:
 
   keydeck::DeckName name_{"Assembly"};
   ddb_InstanceContainer instances_;
-  cow_String solverInput_;
+  keydeck::SolverText solverInput_;
   bool hasMesh_ = false;
   ddb_Mesh mesh_;
   cow_Btree<cow_String, keydeck::AssemblySet> setDefinitions_;
@@ -195,16 +195,16 @@ public:
   mdl_MapString2ObjCow<kmaC_Material> materials_;
   mdl_MapString2ObjCow<kseC_Section> sections_; ///< none until the section families load
   ddb_DdbStepContainer steps_;
-  cow_String topLevelSolverInput_;
-  cow_String solverInput_;
+  keydeck::SolverText topLevelSolverInput_;
+  keydeck::SolverText solverInput_;
   double absoluteZero_ = keydeck::NotGivenDouble;
   double stefanBoltzmann_ = keydeck::NotGivenDouble;
   cow_String waveFormulation_;
-  cow_String restartJob_;
-  cow_String restartStep_;
+  keydeck::DeckName restartJob_;
+  keydeck::DeckName restartStep_;
   int restartIncrement_ = keydeck::NotGivenInt;
   bool endRestartStep_ = false;
-  cow_String globalJob_;
+  keydeck::DeckName globalJob_;
   bool shellToSolid_ = false;
 };
 

@@ -25,6 +25,27 @@ public:
   DeckName(const char* text) : cow_String(text) {}       // NOLINT: like a string literal
 };
 
+/// Raw solver text that the deck carries as it stands. The loader refuses the
+/// control characters in it other than tab and line ends, which no deck
+/// line may hold.
+class SolverText : public cow_String {
+public:
+  SolverText() = default;
+  SolverText(const cow_String& text) : cow_String(text) {} // NOLINT: a text is a string
+};
+
+/// The default of a field that counts something the deck lays out, such as
+/// the field-variable columns of a table: `v("dependencies", dependencies,
+/// Count{0})`. The loader refuses a count below 0 or above `MaxCount`, and the
+/// schema says so, so that the columns a count asks for always fit an int.
+struct Count {
+  int value;
+  constexpr operator int() const { return value; } // NOLINT: stands for its value
+};
+
+/// The most a count may be: far more columns than any table of a deck holds.
+inline constexpr int MaxCount = 1000;
+
 /// Type ids of the model records, all in one place so that they stay unique.
 /// Where the deck branches on an id the number is the one the deck's own
 /// rules give; the others are ours.

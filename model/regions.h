@@ -2,6 +2,7 @@
 
 #include "base/cow_List.h"
 #include "base/cow_String.h"
+#include "model/records.h"
 
 #include <array>
 #include <optional>
@@ -132,7 +133,7 @@ struct PartSet {
 
 /// One face label on some elements of a part: {"face": "S2", "elements": LABELS}.
 struct FaceLabels {
-  cow_String face;
+  DeckName face;
   LabelList elements;
 
   template <class V> void Fields(V& v) {
@@ -156,7 +157,7 @@ struct PartSurface {
 
 /// Labels of one instance: {"instance": "Link-1", "labels": LABELS}.
 struct InstanceLabels {
-  cow_String instance;
+  DeckName instance;
   LabelList labels;
 
   template <class V> void Fields(V& v) {
@@ -167,8 +168,8 @@ struct InstanceLabels {
 
 /// One face label on some elements of one instance.
 struct InstanceFaceLabels {
-  cow_String instance;
-  cow_String face;
+  DeckName instance;
+  DeckName face;
   LabelList elements;
 
   template <class V> void Fields(V& v) {

@@ -73,11 +73,13 @@ struct ModelFile {
   FileFormat format = FileFormat::KeydeckModel;
   FileVersion version;
   cow_Btree<cow_String, ddb_Model> models;
+  cow_String schema; ///< where an editor finds the schema; the deck ignores it
 
   template <class V> void Fields(V& v) {
     v("format", format);
     v("version", version);
     v("models", models);
+    v("$schema", schema, cow_String());
   }
 };
 

@@ -2,6 +2,7 @@
 
 #include "model/json/fields.h"
 #include "model/json/json_text.h"
+#include "model/element_types.h"
 #include "model/json/unwritten.h"
 
 #include <array>
@@ -14,6 +15,13 @@
 namespace keydeck {
 
 namespace {
+
+// The loader's rules for names and raw solver text as patterns: a name holds
+// no double quote and no control character (U+0000..U+001F, DEL,
+// U+0080..U+009F); raw text may hold tabs and line ends.
+constexpr std::string_view NamePattern = R"(^[^"\u0000-\u001f\u007f-\u009f]+$)";
+constexpr std::string_view SolverTextPattern =
+    R"(^[^\u0000-\u0008\u000b\u000c\u000e-\u001f\u007f-\u009f]*$)";
 
 // Writes the schema of each kind of member. `Body` writes the keywords of a
 // schema object into an object already open, so that a property can add its
@@ -29,6 +37,11 @@ public:
   }
 
   void Body(const cow_String&) { Type("string"); }
+  void Body(const DeckName&) { NameBody(); }
+  void Body(const SolverText&) {
+    Type("string");
+    Pattern(SolverTextPattern);
+  }
   void Body(const bool&) { Type("boolean"); }
   void Body(const double&) { Type("number"); }
   void Body(const int&) {
@@ -107,6 +120,7 @@ public:
     Schema(NamedStep<kprC_AnalysisStep>());
   }
   template <FieldRecord R> void Body(R& record) {
+    Constraints(record);
     Type("object");
     out_.Key("properties");
     out_.OpenObject();
@@ -138,7 +152,10 @@ private:
     template <class M, class D> void operator()(const char* name, M& member, const D& value) {
       writer_.out_.Key(name);
       writer_.out_.OpenObject();
-      writer_.Body(member);
+      if constexpr (std::is_same_v<D, Count>)
+        writer_.CountBody();
+      else
+        writer_.Body(member);
       const M fallback = value;
       writer_.Default(fallback);
       writer_.out_.CloseObject();
@@ -163,6 +180,74 @@ private:
       EmptyObject();
     }
   }
+  // What the fields of a record say together, beyond each field alone.
+  template <FieldRecord R> void Constraints(const R&) {}
+  void Constraints(const ddb_ElementClass&) {
+    FieldConstraint("type", [&] { Pattern(ElementTypePattern); });
+  }
+  void Constraints(const PartSet&) { ExactlyOneOf("nodes", "elements"); }
+  void Constraints(const AssemblySet&) { ExactlyOneOf("nodes", "elements"); }
+  void Constraints(const PartSurface&) { ExactlyOneOf("faces", "nodes"); }
+  void Constraints(const AssemblySurface&) { ExactlyOneOf("faces", "nodes"); }
+  void Constraints(const LabelRange&) {
+    FieldConstraint("generate", [&] { // the step, the third item, is 1 or more
+      out_.Key("prefixItems");
+      out_.OpenArray(/*oneLine=*/true);
+      EmptyObject();
+      EmptyObject();
+      out_.OpenObject();
+      out_.Key("minimum");
+      out_.Integer(1);
+      out_.CloseObject();
+      out_.CloseArray();
+    });
+  }
+  // {"allOf": [{"properties": {NAME: {KEYWORDS}}}]}: a rule on one field
+  // beside the record's own "properties", which say the field's type.
+  template <class F> void FieldConstraint(std::string_view name, F&& keywords) {
+    out_.Key("allOf");
+    out_.OpenArray(/*oneLine=*/false);
+    out_.OpenObject();
+    out_.Key("properties");
+    out_.OpenObject();
+    out_.Key(name);
+    out_.OpenObject();
+    keywords();
+    out_.CloseObject();
+    out_.CloseObject();
+    out_.CloseObject();
+    out_.CloseArray();
+  }
+  void ExactlyOneOf(std::string_view first, std::string_view second) {
+    out_.Key("oneOf");
+    out_.OpenArray(/*oneLine=*/false);
+    for (const std::string_view name : {first, second}) {
+      out_.OpenObject();
+      out_.Key("required");
+      out_.OpenArray(/*oneLine=*/true);
+      out_.String(name);
+      out_.CloseArray();
+      out_.CloseObject();
+    }
+    out_.CloseArray();
+  }
+  void NameBody() {
+    Type("string");
+    out_.Key("minLength");
+    out_.Integer(1);
+    Pattern(NamePattern);
+  }
+  void CountBody() {
+    Type("integer");
+    out_.Key("minimum");
+    out_.Integer(0);
+    out_.Key("maximum");
+    out_.Integer(MaxCount);
+  }
+  void Pattern(std::string_view pattern) {
+    out_.Key("pattern");
+    out_.String(pattern);
+  }
   void Type(std::string_view type) {
     out_.Key("type");
     out_.String(type);
@@ -185,6 +270,10 @@ private:
   }
   template <class Entry> void MapOf(Entry entry) {
     Type("object");
+    out_.Key("propertyNames");
+    out_.OpenObject();
+    NameBody();
+    out_.CloseObject();
     out_.Key("additionalProperties");
     Schema(entry);
   }
