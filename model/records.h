@@ -32,6 +32,7 @@ class SolverText : public cow_String {
 public:
   SolverText() = default;
   SolverText(const cow_String& text) : cow_String(text) {} // NOLINT: a text is a string
+  SolverText(const char* text) : cow_String(text) {}       // NOLINT: like a string literal
 };
 
 /// The default of a field that counts something the deck lays out, such as

@@ -509,7 +509,7 @@ private:
   }
   // What a record's fields cannot say one by one, checked once the record is
   // read without error.
-  template <FieldRecord R> void Check(R&) {}
+  template <class R> void Check(R&) {}
   template <ColumnCheckedRecord R> void Check(R& record) { CheckColumns(record); }
   void Check(ddb_NodeData& nodes) { CheckLabels("labels", nodes.labels); }
   void Check(ddb_ElementClass& elements);
