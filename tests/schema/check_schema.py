@@ -35,8 +35,8 @@ def brick(type_):
                       "connectivity": [[1, 2, 3, 4, 5, 6, 7, 8]]}]})
 
 
-def density(fields):
-    return model({"materials": {"Steel": {"density": dict(fields, table=[[1]])}}})
+def density(fields, columns=1):
+    return model({"materials": {"Steel": {"density": dict(fields, table=[[1] * columns])}}})
 
 
 NODES = {"labels": [1, 2], "coordinates": [[0, 0, 0], [1, 0, 0]]}
@@ -74,7 +74,7 @@ GOOD = {
     "name with comma and blanks": model({"assembly": {"name": "My Assembly, 2"}}),
     "tab and line ends in raw solver text": model({"solverInput": "*Preprint\t\r\n"}),
     "user element": brick("U12"),
-    "dependencies at the bound": density({"dependencies": 1000}),
+    "dependencies at the bound": density({"dependencies": 1000}, columns=1001),
 }
 
 
