@@ -1,11 +1,11 @@
 #include "model/json/loader.h"
 
+#include "model/element_types.h"
 #include "model/json/derive.h"
 #include "model/json/fields.h"
 #include "model/json/json_syntax.h"
 #include "model/json/json_text.h"
 #include "model/json/unwritten.h"
-#include "model/element_types.h"
 
 #include <simdjson.h>
 
@@ -1265,6 +1265,7 @@ odb_Odb LoadText(simdjson::padded_string& text, std::string_view documentName,
     whole = reader.Read(file);
   }
   text = simdjson::padded_string(); // the model holds all it needs from the text now
+  errors.EndReading();
   if (whole) {
     for (const cow_String& name : file.models.Keys())
       DeriveModel("models/" + std::string(name.View()), file.models.Get(name), errors);
