@@ -86,9 +86,11 @@ public:
     return columns;
   }
   template <class V> void TableFields(V& v) {
-    v("temperatureDependency", temperatureDependency, false);
-    v("dependencies", dependencies, keydeck::Count{0});
-    v("table", table);
+    v({"temperatureDependency", "true when a temperature column follows the data columns"},
+      temperatureDependency, false);
+    v({"dependencies", "the number of field-variable columns at the end of each row"}, dependencies,
+      keydeck::Count{0});
+    v({"table", "the rows of the table: data, then temperature, then field variables"}, table);
   }
 
   bool temperatureDependency = false;
@@ -546,6 +548,7 @@ template <> inline constexpr bool IsGasketOption<kmaC_MembraneElastic> = true;
 /// behaviours in its own fixed order, whatever order the file gives them in.
 class kmaC_Material {
 public:
+  static constexpr const char* Description = "a material: its behaviours, each written as a card";
   virtual ~kmaC_Material() = default;
   virtual kmaC_Material* Copy() const { return new kmaC_Material(*this); }
   static constexpr unsigned TypeId() { return keydeck::TypeIds::Material; }

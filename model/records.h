@@ -35,6 +35,19 @@ public:
   SolverText(const char* text) : cow_String(text) {}       // NOLINT: like a string literal
 };
 
+/// The name of a field in the file, and optionally what the field means:
+/// `v("labels", labels)` or `v({"labels", "the node labels"}, labels)`. The
+/// schema carries the meaning as the field's "description", so that it is said
+/// once, where the field is declared.
+struct FieldName {
+  constexpr FieldName(const char* name) : text(name) {} // NOLINT: a name is its text
+  constexpr FieldName(const char* name, const char* meaning) : text(name), description(meaning) {}
+  constexpr operator std::string_view() const { return text; } // NOLINT: stands for its text
+
+  const char* text;
+  const char* description = nullptr;
+};
+
 /// The default of a field that counts something the deck lays out, such as
 /// the field-variable columns of a table: `v("dependencies", dependencies,
 /// Count{0})`. The loader refuses a count below 0 or above `MaxCount`, and the

@@ -107,12 +107,12 @@ constexpr double MaxRotationDegrees = 1e6;
 // Collects the names of the gasket behaviours that a material holds.
 struct GasketOptionNames {
   std::vector<const char*> names;
-  template <class M> void operator()(const char*, M&) {}
-  template <class M, class D> void operator()(const char* name, M& member, const D&) {
+  template <class M> void operator()(FieldName, M&) {}
+  template <class M, class D> void operator()(FieldName name, M& member, const D&) {
     if constexpr (IsOptional<M>) {
       if constexpr (IsGasketOption<typename M::value_type>)
         if (member.has_value())
-          names.push_back(name);
+          names.push_back(name.text);
     }
   }
 };
@@ -160,8 +160,8 @@ void AddUnwrittenWarnings(const cow_Btree<cow_String, ddb_Model>& models,
 // A field left out of the file takes its default; a record left out takes the
 // default record, and the fields of that take their own defaults.
 struct DefaultFiller {
-  template <class M> void operator()(const char*, M&) {}
-  template <class M, class D> void operator()(const char*, M& member, const D& value);
+  template <class M> void operator()(FieldName, M&) {}
+  template <class M, class D> void operator()(FieldName, M& member, const D& value);
 };
 
 template <class M, class D> void SetDefault(M& member, const D& value) {
@@ -172,14 +172,14 @@ template <class M, class D> void SetDefault(M& member, const D& value) {
   }
 }
 
-template <class M, class D> void DefaultFiller::operator()(const char*, M& member, const D& value) {
+template <class M, class D> void DefaultFiller::operator()(FieldName, M& member, const D& value) {
   SetDefault(member, value);
 }
 
 struct NameCollector {
   std::vector<std::string_view> names;
-  template <class M> void operator()(const char* name, M&) { names.push_back(name); }
-  template <class M, class D> void operator()(const char* name, M&, const D&) {
+  template <class M> void operator()(FieldName name, M&) { names.push_back(name); }
+  template <class M, class D> void operator()(FieldName name, M&, const D&) {
     names.push_back(name);
   }
 };
@@ -331,16 +331,16 @@ private:
   public:
     FieldReader(Reader& reader, std::string_view key, od::value value, std::uint64_t& seen)
         : reader_(reader), key_(key), value_(value), seen_(seen) {}
-    template <class M> void operator()(const char* name, M& member) {
+    template <class M> void operator()(FieldName name, M& member) {
       Visit(name, member, Required());
     }
-    template <class M, class D> void operator()(const char* name, M& member, const D& fallback) {
+    template <class M, class D> void operator()(FieldName name, M& member, const D& fallback) {
       Visit(name, member, fallback);
     }
     bool Found() const { return found_; }
 
   private:
-    template <class M, class D> void Visit(const char* name, M& member, const D& fallback) {
+    template <class M, class D> void Visit(FieldName name, M& member, const D& fallback) {
       const int index = index_++;
       assert(index < 64 && "a record of more than 64 fields");
       if (found_ || key_ != name)
@@ -374,11 +374,11 @@ private:
   class FieldFinisher {
   public:
     FieldFinisher(Reader& reader, std::uint64_t seen) : reader_(reader), seen_(seen) {}
-    template <class M> void operator()(const char* name, M&) {
+    template <class M> void operator()(FieldName name, M&) {
       if (!Seen())
         reader_.Error("missing field " + QuotedJson(name));
     }
-    template <class M, class D> void operator()(const char*, M& member, const D& value) {
+    template <class M, class D> void operator()(FieldName, M& member, const D& value) {
       if (!Seen())
         SetDefault(member, value);
     }
@@ -1014,13 +1014,13 @@ struct TableField {
   const char* name = nullptr;
   kmaC_MaterialTable* table = nullptr;
   int count = 0;
-  template <class M> void operator()(const char* fieldName, M& member) { Take(fieldName, member); }
-  template <class M, class D> void operator()(const char* fieldName, M& member, const D&) {
+  template <class M> void operator()(FieldName fieldName, M& member) { Take(fieldName, member); }
+  template <class M, class D> void operator()(FieldName fieldName, M& member, const D&) {
     Take(fieldName, member);
   }
-  template <class M> void Take(const char* fieldName, M& member) {
+  template <class M> void Take(FieldName fieldName, M& member) {
     if constexpr (std::is_same_v<M, kmaC_MaterialTable>) {
-      name = fieldName;
+      name = fieldName.text;
       table = &member;
       ++count;
     }

@@ -1,8 +1,8 @@
 #include "model/json/schema.h"
 
+#include "model/element_types.h"
 #include "model/json/fields.h"
 #include "model/json/json_text.h"
-#include "model/element_types.h"
 #include "model/json/unwritten.h"
 
 #include <array>
@@ -32,6 +32,7 @@ public:
 
   template <class M> void Schema(M value) {
     out_.OpenObject();
+    described_ = false;
     Body(value);
     out_.CloseObject();
   }
@@ -120,6 +121,9 @@ public:
     Schema(NamedStep<kprC_AnalysisStep>());
   }
   template <FieldRecord R> void Body(R& record) {
+    if constexpr (requires { R::Description; })
+      Description(R::Description);
+    described_ = false; // the record's fields get their own
     Constraints(record);
     Type("object");
     out_.Key("properties");
@@ -145,13 +149,19 @@ private:
   class PropertyWriter {
   public:
     explicit PropertyWriter(SchemaWriter& writer) : writer_(writer) {}
-    template <class M> void operator()(const char* name, M& member) {
-      writer_.out_.Key(name);
-      writer_.Schema(member);
-    }
-    template <class M, class D> void operator()(const char* name, M& member, const D& value) {
+    template <class M> void operator()(FieldName name, M& member) {
       writer_.out_.Key(name);
       writer_.out_.OpenObject();
+      writer_.described_ = false;
+      writer_.Description(name.description);
+      writer_.Body(member);
+      writer_.out_.CloseObject();
+    }
+    template <class M, class D> void operator()(FieldName name, M& member, const D& value) {
+      writer_.out_.Key(name);
+      writer_.out_.OpenObject();
+      writer_.described_ = false;
+      writer_.Description(name.description);
       if constexpr (std::is_same_v<D, Count>)
         writer_.CountBody();
       else
@@ -167,8 +177,8 @@ private:
 
   struct RequiredNames {
     std::vector<std::string_view> names;
-    template <class M> void operator()(const char* name, M&) { names.push_back(name); }
-    template <class M, class D> void operator()(const char*, M&, const D&) {}
+    template <class M> void operator()(FieldName name, M&) { names.push_back(name); }
+    template <class M, class D> void operator()(FieldName, M&, const D&) {}
   };
 
   // What the deck leaves out on purpose is accepted whatever its value.
@@ -179,6 +189,15 @@ private:
       out_.Key(option.key);
       EmptyObject();
     }
+  }
+  // The "description" of a field, or of a record where no field describes
+  // it; one to a schema object.
+  void Description(const char* text) {
+    if (text == nullptr || described_)
+      return;
+    out_.Key("description");
+    out_.String(text);
+    described_ = true;
   }
   // What the fields of a record say together, beyond each field alone.
   template <FieldRecord R> void Constraints(const R&) {}
@@ -319,6 +338,7 @@ private:
   }
 
   JsonText& out_;
+  bool described_ = false; // the schema object being written has its description
 };
 
 } // namespace

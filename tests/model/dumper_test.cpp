@@ -1,5 +1,4 @@
 #include "model/json/dumper.h"
-
 #include "model/json/json_text.h"
 #include "model/json/loader.h"
 

@@ -29,7 +29,8 @@ public:
   void Check(dom::element schema, dom::element value, const std::string& path) {
     for (const auto [keyword, argument] : dom::object(schema)) {
       if (keyword == "$schema" || keyword == "title" || keyword == "default" ||
-          keyword == "pattern" || keyword == "minLength" || keyword == "propertyNames")
+          keyword == "description" || keyword == "pattern" || keyword == "minLength" ||
+          keyword == "propertyNames")
         continue;
       if (keyword == "type")
         CheckType(std::string_view(argument), value, path);
@@ -246,6 +247,17 @@ TEST_F(Schema, FollowsTheFieldLists) {
   EXPECT_EQ(std::string_view(table["items"]["items"]["type"]), "number");
   EXPECT_EQ(dom::object(material["properties"]["mullinsEffect"]).size(), 0u);
   EXPECT_TRUE(material["properties"]["hyperelastic"].error());
+
+  // Descriptions come from the declarations: a field's from its `v` call, a
+  // record's where no field describes it (an entry of a map).
+  EXPECT_EQ(std::string_view(model["description"]), ddb_Model::Description);
+  EXPECT_EQ(std::string_view(model["properties"]["parts"]["description"]), "the parts by name");
+  EXPECT_EQ(std::string_view(material["description"]), kmaC_Material::Description);
+  EXPECT_EQ(std::string_view(
+                material["properties"]["density"]["properties"]["dependencies"]["description"]),
+            "the number of field-variable columns at the end of each row");
+  EXPECT_EQ(std::string_view(model["properties"]["assembly"]["description"]),
+            "the assembly of part instances");
 }
 
 TEST_F(Schema, AcceptsValidFiles) {
