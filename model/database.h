@@ -18,18 +18,26 @@
 /// its raw solver text.
 class ddb_Part {
 public:
+  static constexpr const char* Description = "a part: its mesh, sets, surfaces and raw solver text";
   const cow_String& solverInput() const { return solverInput_; }
   const ddb_Mesh& mesh() const { return mesh_; }
 
   template <class V> void Fields(V& v) {
-    v("nodes", mesh_.nodes, ddb_NodeData());
-    v("elements", mesh_.elements.classes, cow_List<ddb_ElementClass>());
-    v("sets", setDefinitions_, cow_Btree<cow_String, keydeck::PartSet>());
-    v("surfaces", surfaceDefinitions_, cow_Btree<cow_String, keydeck::PartSurface>());
-    v("datums", datums_, cow_Btree<cow_String, ddb_DatumCsys>());
-    v("beamOrientations", beamOrientations_, cow_List<ptoC_BeamOrientation>());
-    v("materialOrientations", materialOrientations_, cow_List<ptoC_MaterialOrientation>());
-    v("solverInput", solverInput_, cow_String());
+    v({"nodes", "the nodes of the part: labels and coordinates"}, mesh_.nodes, ddb_NodeData());
+    v({"elements", "the elements of the part, one entry per element type"}, mesh_.elements.classes,
+      cow_List<ddb_ElementClass>());
+    v({"sets", "node and element sets of the part by name"}, setDefinitions_,
+      cow_Btree<cow_String, keydeck::PartSet>());
+    v({"surfaces", "surfaces of the part by name"}, surfaceDefinitions_,
+      cow_Btree<cow_String, keydeck::PartSurface>());
+    v({"datums", "datum coordinate systems of the part by name, in the part's frame"}, datums_,
+      cow_Btree<cow_String, ddb_DatumCsys>());
+    v({"beamOrientations", "beam section orientations of element sets"}, beamOrientations_,
+      cow_List<ptoC_BeamOrientation>());
+    v({"materialOrientations", "material orientations of element sets"}, materialOrientations_,
+      cow_List<ptoC_MaterialOrientation>());
+    v({"solverInput", "raw solver text written at the end of the part"}, solverInput_,
+      cow_String());
   }
 
   ddb_Mesh mesh_; ///< its `sets` are derived after loading from the two maps below
@@ -38,7 +46,7 @@ public:
   cow_Btree<cow_String, ddb_DatumCsys> datums_; ///< in the part's frame
   cow_List<ptoC_BeamOrientation> beamOrientations_;
   cow_List<ptoC_MaterialOrientation> materialOrientations_;
-  cow_String solverInput_;
+  keydeck::SolverText solverInput_;
 };
 
 /// The parts of a model by name, in ascending byte order of the name.
@@ -81,8 +89,8 @@ struct InstanceRotation {
   double angle = 0;
 
   template <class V> void Fields(V& v) {
-    v("axis", axis);
-    v("angle", angle);
+    v({"axis", "the rotation axis through the origin, of any length but zero"}, axis);
+    v({"angle", "the angle about the axis in degrees, from -1e6 to 1e6"}, angle);
   }
 };
 
@@ -93,6 +101,8 @@ struct InstanceRotation {
 /// origin.
 class ddb_PartInstance : public ddb_BaseInstance {
 public:
+  static constexpr const char* Description =
+      "an instance of a part, placed by a translation and then a rotation";
   ddb_BaseInstance* Copy() const override { return new ddb_PartInstance(*this); }
   static constexpr unsigned TypeId() { return keydeck::TypeIds::PartInstance; }
   static bool IsKindOf(unsigned id) { return id == TypeId(); }
@@ -112,16 +122,19 @@ public:
   }
 
   template <class V> void Fields(V& v) {
-    v("part", partName_);
-    v("translation", translation_, std::array<double, 3>{0, 0, 0});
-    v("rotation", rotation_, std::nullopt);
-    v("solverInput", solverInput_, cow_String());
+    v({"part", "the name of the part this instance places"}, partName_);
+    v({"translation", "the translation applied first"}, translation_,
+      std::array<double, 3>{0, 0, 0});
+    v({"rotation", "the rotation about an axis through the origin, applied after the translation"},
+      rotation_, std::nullopt);
+    v({"solverInput", "raw solver text written at the end of the instance"}, solverInput_,
+      cow_String());
   }
 
-  cow_String partName_;
+  keydeck::DeckName partName_;
   std::array<double, 3> translation_{0, 0, 0};
   std::optional<keydeck::InstanceRotation> rotation_;
-  cow_String solverInput_;
+  keydeck::SolverText solverInput_;
   // Derived after loading:
   cow_String name_; ///< the instance's key in the assembly
   ddb_Mesh mesh_;   ///< the part's mesh and sets with this instance's mesh index
@@ -146,17 +159,21 @@ public:
   const ddb_SetList& set() const { return sets_; }
 
   template <class V> void Fields(V& v) {
-    v("name", name_, cow_String("Assembly"));
-    v("instances", instances_, ddb_InstanceContainer());
-    v("sets", setDefinitions_, cow_Btree<cow_String, keydeck::AssemblySet>());
-    v("surfaces", surfaceDefinitions_, cow_Btree<cow_String, keydeck::AssemblySurface>());
-    v("datums", datums_, cow_Btree<cow_String, ddb_DatumCsys>());
-    v("solverInput", solverInput_, cow_String());
+    v({"name", "the name of the assembly in the deck"}, name_, cow_String("Assembly"));
+    v({"instances", "the part instances by name"}, instances_, ddb_InstanceContainer());
+    v({"sets", "sets over the nodes or elements of instances, by name"}, setDefinitions_,
+      cow_Btree<cow_String, keydeck::AssemblySet>());
+    v({"surfaces", "surfaces over the faces or nodes of instances, by name"}, surfaceDefinitions_,
+      cow_Btree<cow_String, keydeck::AssemblySurface>());
+    v({"datums", "datum coordinate systems of the assembly by name"}, datums_,
+      cow_Btree<cow_String, ddb_DatumCsys>());
+    v({"solverInput", "raw solver text written at the end of the assembly"}, solverInput_,
+      cow_String());
   }
 
   keydeck::DeckName name_{"Assembly"};
   ddb_InstanceContainer instances_;
-  cow_String solverInput_;
+  keydeck::SolverText solverInput_;
   bool hasMesh_ = false;
   ddb_Mesh mesh_;
   cow_Btree<cow_String, keydeck::AssemblySet> setDefinitions_;
@@ -169,6 +186,7 @@ public:
 /// model shares its data.
 class ddb_Model {
 public:
+  static constexpr const char* Description = "a model: parts, assembly, materials and steps";
   const ddb_PartContainer& part() const { return parts_; }
   const ddb_Assembly& rootAssembly() const { return assembly_; }
   const ddb_DdbStepContainer& step() const { return steps_; }
@@ -192,21 +210,30 @@ public:
   const mdl_MapString2ObjCow<kseC_Section>& sections() const { return sections_; }
 
   template <class V> void Fields(V& v) {
-    v("parts", parts_.parts_, cow_Btree<cow_String, ddb_Part>());
-    v("assembly", assembly_, ddb_Assembly());
-    v("materials", materials_, mdl_MapString2ObjCow<kmaC_Material>());
-    v("steps", steps_.steps, kprC_StepContainer());
-    v("topLevelSolverInput", topLevelSolverInput_, cow_String());
-    v("solverInput", solverInput_, cow_String());
-    v("absoluteZero", absoluteZero_, keydeck::NotGivenDouble);
-    v("stefanBoltzmann", stefanBoltzmann_, keydeck::NotGivenDouble);
-    v("waveFormulation", waveFormulation_, cow_String());
-    v("restartJob", restartJob_, cow_String());
-    v("restartStep", restartStep_, cow_String());
-    v("restartIncrement", restartIncrement_, keydeck::NotGivenInt);
-    v("endRestartStep", endRestartStep_, false);
-    v("globalJob", globalJob_, cow_String());
-    v("shellToSolid", shellToSolid_, false);
+    v({"parts", "the parts by name"}, parts_.parts_, cow_Btree<cow_String, ddb_Part>());
+    v({"assembly", "the assembly of part instances"}, assembly_, ddb_Assembly());
+    v({"materials", "the materials by name"}, materials_, mdl_MapString2ObjCow<kmaC_Material>());
+    v({"steps", "the steps in order, the initial step first"}, steps_.steps, kprC_StepContainer());
+    v({"topLevelSolverInput", "raw solver text written verbatim at the top of the deck"},
+      topLevelSolverInput_, cow_String());
+    v({"solverInput", "raw solver text written after the assembly, with the model data"},
+      solverInput_, cow_String());
+    v({"absoluteZero", "absolute zero on the temperature scale of the model"}, absoluteZero_,
+      keydeck::NotGivenDouble);
+    v({"stefanBoltzmann", "the Stefan-Boltzmann constant in the units of the model"},
+      stefanBoltzmann_, keydeck::NotGivenDouble);
+    v({"waveFormulation", "the formulation of incident-wave loading"}, waveFormulation_,
+      cow_String());
+    v({"restartJob", "the job to restart from"}, restartJob_, cow_String());
+    v({"restartStep", "the step of that job to restart from"}, restartStep_, cow_String());
+    v({"restartIncrement", "the increment of that step to restart from"}, restartIncrement_,
+      keydeck::NotGivenInt);
+    v({"endRestartStep", "true to end the restart step where the old job left it"}, endRestartStep_,
+      false);
+    v({"globalJob", "the job of the global model that drives this submodel"}, globalJob_,
+      cow_String());
+    v({"shellToSolid", "true when a shell global model drives a solid submodel"}, shellToSolid_,
+      false);
   }
 
   ddb_PartContainer parts_;
@@ -218,16 +245,16 @@ public:
   /// datums in its frame, the assembly's, then each instance's in the frame
   /// of the assembly.
   cow_List<ddb_Datum> datums_;
-  cow_String topLevelSolverInput_;
-  cow_String solverInput_;
+  keydeck::SolverText topLevelSolverInput_;
+  keydeck::SolverText solverInput_;
   double absoluteZero_ = keydeck::NotGivenDouble;
   double stefanBoltzmann_ = keydeck::NotGivenDouble;
   cow_String waveFormulation_;
-  cow_String restartJob_;
-  cow_String restartStep_;
+  keydeck::DeckName restartJob_;
+  keydeck::DeckName restartStep_;
   int restartIncrement_ = keydeck::NotGivenInt;
   bool endRestartStep_ = false;
-  cow_String globalJob_;
+  keydeck::DeckName globalJob_;
   bool shellToSolid_ = false;
 };
 

@@ -1,5 +1,6 @@
 #include "model/element_types.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <string_view>
 
@@ -89,7 +90,50 @@ shp_Shape ShapeOf(const Family& family, std::string_view rest) {
   return shape;
 }
 
+// The types a user names by hand, by family; the suffix letters of each are
+// those the solver offers for it.
+constexpr std::string_view KnownTypes[] = {
+    "C3D4",     "C3D4H",   "C3D4T",   "C3D6",    "C3D6H",   "C3D6T",  "C3D8",    "C3D8H",
+    "C3D8I",    "C3D8IH",  "C3D8R",   "C3D8RH",  "C3D8T",   "C3D8HT", "C3D8RT",  "C3D8RHT",
+    "C3D10",    "C3D10H",  "C3D10M",  "C3D10MH", "C3D10MT", "C3D15",  "C3D15H",  "C3D15V",
+    "C3D15VH",  "C3D20",   "C3D20H",  "C3D20R",  "C3D20RH", "C3D20T", "C3D20HT", "C3D20RT",
+    "C3D20RHT", "C3D27",   "C3D27H",  "C3D27R",  "C3D27RH", "DC3D4",  "DC3D6",   "DC3D8",
+    "DC3D10",   "DC3D15",  "DC3D20",  "SC6R",    "SC8R",    "SC6RT",  "SC8RT",   "CPS3",
+    "CPS4",     "CPS4I",   "CPS4R",   "CPS4T",   "CPS4RT",  "CPS6",   "CPS6M",   "CPS8",
+    "CPS8R",    "CPS8T",   "CPE3",    "CPE3H",   "CPE4",    "CPE4H",  "CPE4I",   "CPE4IH",
+    "CPE4R",    "CPE4RH",  "CPE4T",   "CPE4RT",  "CPE6",    "CPE6H",  "CPE6M",   "CPE6MH",
+    "CPE8",     "CPE8H",   "CPE8R",   "CPE8RH",  "CPE8T",   "CAX3",   "CAX3H",   "CAX4",
+    "CAX4H",    "CAX4I",   "CAX4IH",  "CAX4R",   "CAX4RH",  "CAX4T",  "CAX4RT",  "CAX6",
+    "CAX6H",    "CAX6M",   "CAX6MH",  "CAX8",    "CAX8H",   "CAX8R",  "CAX8RH",  "CAX8T",
+    "DC2D3",    "DC2D4",   "DC2D6",   "DC2D8",   "M3D3",    "M3D4",   "M3D4R",   "M3D6",
+    "M3D8",     "M3D8R",   "M3D9",    "M3D9R",   "R3D3",    "R3D4",   "STRI3",   "STRI65",
+    "S3",       "S3R",     "S3RS",    "S3T",     "S3RT",    "S4",     "S4R",     "S4RS",
+    "S4R5",     "S4T",     "S4RT",    "S8R",     "S8R5",    "S8RT",   "S9R5",    "B21",
+    "B21H",     "B22",     "B22H",    "B31",     "B31H",    "B31OS",  "B32",     "B32H",
+    "B32OS",    "T2D2",    "T2D2H",   "T2D3",    "T2D3H",   "T3D2",   "T3D2H",   "T3D3",
+    "T3D3H",    "CONN2D2", "CONN3D2",
+};
+
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
 } // namespace
+
+bool IsWellFormedElementType(std::string_view type) {
+  return !type.empty() && std::all_of(type.begin(), type.end(), [](char c) {
+    return IsDigit(c) || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_' || c == '-';
+  });
+}
+
+std::span<const std::string_view> KnownElementTypes() { return KnownTypes; }
+
+bool IsKnownElementType(std::string_view type) {
+  return std::find(std::begin(KnownTypes), std::end(KnownTypes), type) != std::end(KnownTypes);
+}
+
+bool IsUserElementType(std::string_view type) {
+  return type.size() >= 2 && type[0] == 'U' && type[1] != '0' &&
+         std::all_of(type.begin() + 1, type.end(), IsDigit);
+}
 
 shp_Shape ShapeOfElementType(const cow_String& type) {
   const std::string_view label = type.View();

@@ -2,7 +2,9 @@
 
 #include "base/cow_String.h"
 
+#include <span>
 #include <string>
+#include <string_view>
 
 /// What the deck needs to know of an element type's shape: the dimension of
 /// the element itself (1 a line, 2 a surface, 3 a solid; 0 a point or a type
@@ -29,6 +31,23 @@ namespace keydeck {
 /// the families the table knows, with their suffix letters; any other type
 /// gives a default shape with no faces and no node count.
 shp_Shape ShapeOfElementType(const cow_String& type);
+
+/// The form of every element type: letters, digits, "_" and "-" (the type
+/// stands bare on its "*Element" line), as a JSON Schema pattern.
+inline constexpr std::string_view ElementTypePattern = "^[A-Za-z0-9_-]+$";
+
+/// True for a type of that form.
+bool IsWellFormedElementType(std::string_view type);
+
+/// The element types that keydeck knows by name, each one with a shape in
+/// the table of `ShapeOfElementType`. Matching is case-sensitive.
+std::span<const std::string_view> KnownElementTypes();
+
+/// True for a type in `KnownElementTypes()`.
+bool IsKnownElementType(std::string_view type);
+
+/// True for the type of a user element: "U" and a number ("U1", "U202").
+bool IsUserElementType(std::string_view type);
 
 /// The facet id (0-based) of a face label on an element of that shape:
 /// "S1".."Sn" on solids and plane elements, "SPOS"/"SNEG" on shells and on

@@ -42,7 +42,7 @@ keydeck::TableColumns kmaC_Plastic::ExpectedColumns() const {
   }
   switch (dataType) {
   case Parameters:
-    return Columns(1 + 2 * std::max(numBackstress, 0));
+    return Columns(1 + 2 * numBackstress); // the loader bounds the count
   case Stabilized:
     return Columns(strainRangeDependency ? 3 : 2);
   case NoDataType:

@@ -5,6 +5,7 @@
 #include "model/records.h"
 
 #include <concepts>
+#include <cstdint>
 #include <optional>
 #include <string_view>
 
@@ -43,8 +44,11 @@ struct TableColumns {
   bool optionalTemperature = false; ///< a temperature column may follow the data
   int fieldVariables = 0;           ///< the field-variable columns at the end
 
-  /// The columns of a table that has just what is required.
-  int Fewest() const { return data + (temperature ? 1 : 0) + fieldVariables; }
+  /// The columns of a table that has just what is required; counted wide,
+  /// since the counts behind them come from the file.
+  std::int64_t Fewest() const {
+    return std::int64_t{data} + (temperature ? 1 : 0) + fieldVariables;
+  }
   bool Fits(int columns) const {
     return columns == Fewest() || (moreData && columns > Fewest()) ||
            (optionalTemperature && columns == Fewest() + 1);
@@ -82,9 +86,11 @@ public:
     return columns;
   }
   template <class V> void TableFields(V& v) {
-    v("temperatureDependency", temperatureDependency, false);
-    v("dependencies", dependencies, 0);
-    v("table", table);
+    v({"temperatureDependency", "true when a temperature column follows the data columns"},
+      temperatureDependency, false);
+    v({"dependencies", "the number of field-variable columns at the end of each row"}, dependencies,
+      keydeck::Count{0});
+    v({"table", "the rows of the table: data, then temperature, then field variables"}, table);
   }
 
   bool temperatureDependency = false;
@@ -272,7 +278,7 @@ public:
     return keydeck::DependentColumns(1, /*temperatureDependency=*/false, dependencies);
   }
   template <class V> void Fields(V& v) {
-    v("dependencies", dependencies, 0);
+    v("dependencies", dependencies, keydeck::Count{0});
     v("table", table);
   }
 
@@ -304,7 +310,7 @@ public:
     v("rateColumn", rate, false);
     v("dataType", dataType, NoDataType);
     v("strainRangeDependency", strainRangeDependency, false);
-    v("numBackstress", numBackstress, 1);
+    v("numBackstress", numBackstress, keydeck::Count{1});
     TableFields(v);
     v("rateDependent", rateDependent, std::optional<kmaC_RateDependent>());
     v("potential", potential, std::optional<kmaC_Potential>());
@@ -452,7 +458,7 @@ template <> struct keydeck::EnumTable<kmaC_Regularization::StrainRateRegularizat
 class kmaC_MembraneElastic {
 public:
   template <class V> void Fields(V& v) {
-    v("dependencies", dependencies, 0);
+    v("dependencies", dependencies, keydeck::Count{0});
     v("table", table);
   }
 
@@ -465,7 +471,7 @@ class kmaC_TransShearElastic {
 public:
   template <class V> void Fields(V& v) {
     v("variableForce", variable, 0);
-    v("dependencies", dependencies, 0);
+    v("dependencies", dependencies, keydeck::Count{0});
     v("table", table);
   }
 
@@ -478,7 +484,7 @@ public:
 class kmaC_ContactArea {
 public:
   template <class V> void Fields(V& v) {
-    v("dependencies", dependencies, 0);
+    v("dependencies", dependencies, keydeck::Count{0});
     v("table", table);
   }
 
@@ -495,10 +501,10 @@ public:
   static constexpr double yieldValueDef = 0.1;
 
   template <class V> void Fields(V& v) {
-    v("dependencies", dependencies, 0);
+    v("dependencies", dependencies, keydeck::Count{0});
     v("tensileStiffnessFactor", tensileStiffnessFactor, tensileStiffnessFactorDef);
     v("damage", damage, false);
-    v("unloadingDependencies", unloadingDependencies, 0);
+    v("unloadingDependencies", unloadingDependencies, keydeck::Count{0});
     v("variable", variable, Stress);
     v("yieldValue", yieldValue, yieldValueDef);
     v("yieldOnset", yieldOnset, false);
@@ -542,6 +548,7 @@ template <> inline constexpr bool IsGasketOption<kmaC_MembraneElastic> = true;
 /// behaviours in its own fixed order, whatever order the file gives them in.
 class kmaC_Material {
 public:
+  static constexpr const char* Description = "a material: its behaviours, each written as a card";
   virtual ~kmaC_Material() = default;
   virtual kmaC_Material* Copy() const { return new kmaC_Material(*this); }
   static constexpr unsigned TypeId() { return keydeck::TypeIds::Material; }

@@ -26,6 +26,41 @@ public:
   DeckName(const char* text) : cow_String(text) {}       // NOLINT: like a string literal
 };
 
+/// Raw solver text that the deck carries as it stands. The loader refuses the
+/// control characters in it other than tab and line ends, which no deck
+/// line may hold.
+class SolverText : public cow_String {
+public:
+  SolverText() = default;
+  SolverText(const cow_String& text) : cow_String(text) {} // NOLINT: a text is a string
+  SolverText(const char* text) : cow_String(text) {}       // NOLINT: like a string literal
+};
+
+/// The name of a field in the file, and optionally what the field means:
+/// `v("labels", labels)` or `v({"labels", "the node labels"}, labels)`. The
+/// schema carries the meaning as the field's "description", so that it is said
+/// once, where the field is declared.
+struct FieldName {
+  constexpr FieldName(const char* name) : text(name) {} // NOLINT: a name is its text
+  constexpr FieldName(const char* name, const char* meaning) : text(name), description(meaning) {}
+  constexpr operator std::string_view() const { return text; } // NOLINT: stands for its text
+
+  const char* text;
+  const char* description = nullptr;
+};
+
+/// The default of a field that counts something the deck lays out, such as
+/// the field-variable columns of a table: `v("dependencies", dependencies,
+/// Count{0})`. The loader refuses a count below 0 or above `MaxCount`, and the
+/// schema says so, so that the columns a count asks for always fit an int.
+struct Count {
+  int value;
+  constexpr operator int() const { return value; } // NOLINT: stands for its value
+};
+
+/// The most a count may be: far more columns than any table of a deck holds.
+inline constexpr int MaxCount = 1000;
+
 /// Type ids of the model records, all in one place so that they stay unique.
 /// Where the deck branches on an id the number is the one the deck's own
 /// rules give; the others are ours.

@@ -2,6 +2,7 @@
 
 #include "base/cow_List.h"
 #include "base/cow_String.h"
+#include "model/records.h"
 
 #include <array>
 #include <optional>
@@ -89,7 +90,9 @@ struct LabelRange {
   int Last() const { return generate[1]; }
   int Step() const { return generate[2]; }
 
-  template <class V> void Fields(V& v) { v("generate", generate); }
+  template <class V> void Fields(V& v) {
+    v({"generate", "first label, last label and step (1 or more)"}, generate);
+  }
 };
 
 /// A list of labels as the file gives it: the labels themselves, or a range
@@ -119,90 +122,102 @@ public:
 /// A set of a part: `nodes` or `elements` (exactly one of them), and whether
 /// the deck marks it internal.
 struct PartSet {
+  static constexpr const char* Description = "a set of a part: its nodes or its elements";
   std::optional<LabelList> nodes;
   std::optional<LabelList> elements;
   bool internal = false;
 
   template <class V> void Fields(V& v) {
-    v("nodes", nodes, std::nullopt);
-    v("elements", elements, std::nullopt);
-    v("internal", internal, false);
+    v({"nodes", "the labels of the nodes in the set (give this or elements)"}, nodes, std::nullopt);
+    v({"elements", "the labels of the elements in the set (give this or nodes)"}, elements,
+      std::nullopt);
+    v({"internal", "true to mark the set internal in the deck"}, internal, false);
   }
 };
 
 /// One face label on some elements of a part: {"face": "S2", "elements": LABELS}.
 struct FaceLabels {
-  cow_String face;
+  static constexpr const char* Description = "one face label on some elements";
+  DeckName face;
   LabelList elements;
 
   template <class V> void Fields(V& v) {
-    v("face", face);
-    v("elements", elements);
+    v({"face", "the face label of the deck: S1 to S6, SPOS, SNEG, END1, END2"}, face);
+    v({"elements", "the labels of the elements whose face it is"}, elements);
   }
 };
 
 /// A surface of a part: element faces or nodes (exactly one of them).
 struct PartSurface {
+  static constexpr const char* Description = "a surface of a part: element faces or nodes";
   std::optional<cow_List<FaceLabels>> faces;
   std::optional<LabelList> nodes;
   bool internal = false;
 
   template <class V> void Fields(V& v) {
-    v("faces", faces, std::nullopt);
-    v("nodes", nodes, std::nullopt);
-    v("internal", internal, false);
+    v({"faces", "element faces, by face label (give this or nodes)"}, faces, std::nullopt);
+    v({"nodes", "the labels of the nodes of the surface (give this or faces)"}, nodes,
+      std::nullopt);
+    v({"internal", "true to mark the surface internal in the deck"}, internal, false);
   }
 };
 
 /// Labels of one instance: {"instance": "Link-1", "labels": LABELS}.
 struct InstanceLabels {
-  cow_String instance;
+  static constexpr const char* Description = "labels of one instance";
+  DeckName instance;
   LabelList labels;
 
   template <class V> void Fields(V& v) {
-    v("instance", instance);
-    v("labels", labels);
+    v({"instance", "the name of the instance"}, instance);
+    v({"labels", "labels of the part of that instance"}, labels);
   }
 };
 
 /// One face label on some elements of one instance.
 struct InstanceFaceLabels {
-  cow_String instance;
-  cow_String face;
+  static constexpr const char* Description = "one face label on some elements of one instance";
+  DeckName instance;
+  DeckName face;
   LabelList elements;
 
   template <class V> void Fields(V& v) {
-    v("instance", instance);
-    v("face", face);
-    v("elements", elements);
+    v({"instance", "the name of the instance"}, instance);
+    v({"face", "the face label of the deck: S1 to S6, SPOS, SNEG, END1, END2"}, face);
+    v({"elements", "the labels of the elements whose face it is"}, elements);
   }
 };
 
 /// A set of the assembly over the nodes or the elements (exactly one of
 /// them) of one or more instances.
 struct AssemblySet {
+  static constexpr const char* Description =
+      "a set of the assembly: nodes or elements of instances";
   std::optional<cow_List<InstanceLabels>> nodes;
   std::optional<cow_List<InstanceLabels>> elements;
   bool internal = false;
 
   template <class V> void Fields(V& v) {
-    v("nodes", nodes, std::nullopt);
-    v("elements", elements, std::nullopt);
-    v("internal", internal, false);
+    v({"nodes", "nodes of instances (give this or elements)"}, nodes, std::nullopt);
+    v({"elements", "elements of instances (give this or nodes)"}, elements, std::nullopt);
+    v({"internal", "true to mark the set internal in the deck"}, internal, false);
   }
 };
 
 /// A surface of the assembly: element faces or nodes (exactly one of them)
 /// of one or more instances.
 struct AssemblySurface {
+  static constexpr const char* Description =
+      "a surface of the assembly: element faces or nodes of instances";
   std::optional<cow_List<InstanceFaceLabels>> faces;
   std::optional<cow_List<InstanceLabels>> nodes;
   bool internal = false;
 
   template <class V> void Fields(V& v) {
-    v("faces", faces, std::nullopt);
-    v("nodes", nodes, std::nullopt);
-    v("internal", internal, false);
+    v({"faces", "element faces of instances, by face label (give this or nodes)"}, faces,
+      std::nullopt);
+    v({"nodes", "nodes of instances (give this or faces)"}, nodes, std::nullopt);
+    v({"internal", "true to mark the surface internal in the deck"}, internal, false);
   }
 };
 

@@ -162,11 +162,11 @@ private:
   class FieldWriter {
   public:
     explicit FieldWriter(Dumper& dumper) : dumper_(dumper) {}
-    template <class M> void operator()(const char* name, M& member) {
+    template <class M> void operator()(FieldName name, M& member) {
       dumper_.out_.Key(name);
       dumper_.Write(member);
     }
-    template <class M, class D> void operator()(const char* name, M& member, const D& value) {
+    template <class M, class D> void operator()(FieldName name, M& member, const D& value) {
       if (!IsDefault(member, value))
         (*this)(name, member);
     }

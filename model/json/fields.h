@@ -21,8 +21,8 @@ namespace keydeck {
 /// A visitor that accepts every field; it only serves to ask whether a class
 /// declares fields.
 struct AnyFieldVisitor {
-  template <class M> void operator()(const char*, M&) {}
-  template <class M, class D> void operator()(const char*, M&, const D&) {}
+  template <class M> void operator()(FieldName, M&) {}
+  template <class M, class D> void operator()(FieldName, M&, const D&) {}
 };
 
 /// A record: a class that lists its fields in `Fields(V&)`.
@@ -43,6 +43,7 @@ template <> struct MapEntryClass<kmaC_Material> { using Type = kmaC_Material; };
 /// A step as the file gives it: its name, then the step's own fields. The
 /// model keeps the name as the step's key.
 template <class Step> struct NamedStep {
+  static constexpr const char* Description = "a step: its name and what it does";
   cow_String name;
   Step step;
 
@@ -74,11 +75,13 @@ struct ModelFile {
   FileFormat format = FileFormat::KeydeckModel;
   FileVersion version;
   cow_Btree<cow_String, ddb_Model> models;
+  cow_String schema; ///< where an editor finds the schema; the deck ignores it
 
   template <class V> void Fields(V& v) {
-    v("format", format);
-    v("version", version);
-    v("models", models);
+    v({"format", "says that the file is a keydeck model file"}, format);
+    v({"version", "the version of the file format"}, version);
+    v({"models", "the models by name"}, models);
+    v({"$schema", "where an editor finds this schema; the deck ignores it"}, schema, cow_String());
   }
 };
 

@@ -93,11 +93,30 @@ void JsonText::NewLine() {
   text_.append(2 * levels_.size(), ' ');
 }
 
+std::size_t ControlCharacterSize(std::string_view text, std::size_t at) {
+  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+  if (byte(at) < 0x20 || byte(at) == 0x7F)
+    return 1;
+  // U+0080..U+009F: C2 followed by 80..9F in UTF-8.
+  if (byte(at) == 0xC2 && at + 1 < text.size() && byte(at + 1) >= 0x80 && byte(at + 1) <= 0x9F)
+    return 2;
+  return 0;
+}
+
+// "\u001b" for the control character `code`.
+static void AppendUnicodeEscape(std::string& out, unsigned code) {
+  constexpr char Hex[] = "0123456789abcdef";
+  out += "\\u00";
+  out += Hex[(code >> 4) & 0xF];
+  out += Hex[code & 0xF];
+}
+
 std::string QuotedJson(std::string_view text) {
   std::string quoted;
   quoted.reserve(text.size() + 2);
   quoted += '"';
-  for (const char c : text) {
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const char c = text[i];
     switch (c) {
     case '"':
       quoted += "\\\"";
@@ -115,13 +134,16 @@ std::string QuotedJson(std::string_view text) {
       quoted += "\\r";
       break;
     default:
-      if (static_cast<unsigned char>(c) < 0x20) {
-        constexpr char Hex[] = "0123456789abcdef";
-        quoted += "\\u00";
-        quoted += Hex[(c >> 4) & 0xF];
-        quoted += Hex[c & 0xF];
-      } else {
+      // Escaped, so that a message never sends a terminal a control sequence.
+      switch (ControlCharacterSize(text, i)) {
+      case 0:
         quoted += c;
+        break;
+      case 1:
+        AppendUnicodeEscape(quoted, static_cast<unsigned char>(c));
+        break;
+      default:
+        AppendUnicodeEscape(quoted, static_cast<unsigned char>(text[++i]));
       }
     }
   }

@@ -49,7 +49,13 @@ private:
   bool afterKey_ = false;
 };
 
-/// `text` in double quotes with JSON escapes, for messages and JSON output.
+/// The length in bytes of the control character that starts at byte `at` of
+/// the UTF-8 `text`, or 0 when none starts there. Control characters are
+/// U+0000..U+001F, DEL and U+0080..U+009F.
+std::size_t ControlCharacterSize(std::string_view text, std::size_t at);
+
+/// `text` in double quotes with JSON escapes, for messages and JSON output;
+/// every control character is escaped.
 std::string QuotedJson(std::string_view text);
 
 /// Writes a scalar field value as the file gives it.

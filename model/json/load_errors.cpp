@@ -36,7 +36,7 @@ void LoadErrors::Add(std::string_view path, std::string_view what) {
 }
 
 bool LoadErrors::AnyAtOrUnder(std::string_view path) const {
-  if (count_ > static_cast<int>(messages_.size()))
+  if (droppedWhileReading_ > 0)
     return true;
   for (const std::string& message : messages_) {
     if (!message.starts_with(path) || message.size() == path.size())
@@ -51,6 +51,7 @@ bool LoadErrors::AnyAtOrUnder(std::string_view path) const {
 void LoadErrors::Clear() {
   messages_.clear();
   count_ = 0;
+  droppedWhileReading_ = 0;
 }
 
 void LoadErrors::Throw() const {

@@ -39,8 +39,12 @@ public:
   bool Keeping() const { return count_ < MaxKept; }
   int Count() const { return count_; }
   bool Empty() const { return count_ == 0; }
-  /// True when a kept message lies at `path` or below it, or when messages were
-  /// dropped (and so might).
+  /// Marks the end of reading the file: the checks after it ask
+  /// `AnyAtOrUnder` about what reading found.
+  void EndReading() { droppedWhileReading_ = count_ - static_cast<int>(messages_.size()); }
+  /// True when a kept message lies at `path` or below it, or when messages of
+  /// reading were dropped (and so might). Messages dropped after reading do
+  /// not count, so that the checks after it go on counting their problems.
   bool AnyAtOrUnder(std::string_view path) const;
   /// Forgets every message.
   void Clear();
@@ -51,6 +55,7 @@ public:
 private:
   std::vector<std::string> messages_;
   int count_ = 0;
+  int droppedWhileReading_ = 0;
 };
 
 } // namespace keydeck

@@ -1,5 +1,6 @@
 #include "model/json/loader.h"
 
+#include "model/element_types.h"
 #include "model/json/derive.h"
 #include "model/json/external_arrays.h"
 #include "model/json/fields.h"
@@ -23,6 +24,7 @@
 #include <cstring>
 #include <filesystem>
 #include <optional>
+#include <span>
 #include <string>
 #include <system_error>
 #include <type_traits>
@@ -32,6 +34,19 @@ namespace keydeck {
 
 namespace {
 
+// True when `text` holds a control character; tab and line ends pass when
+// `layoutPasses`.
+bool HoldsControl(std::string_view text, bool layoutPasses) {
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const char c = text[i];
+    if (layoutPasses && (c == '\t' || c == '\n' || c == '\r'))
+      continue;
+    if (ControlCharacterSize(text, i) != 0)
+      return true;
+  }
+  return false;
+}
+
 // A name goes on deck lines, quoted where it needs to be. It must not be
 // empty; and the deck has no escape for a double quote inside quotes, while a
 // line end or another control character would break the line, so a name may
@@ -39,28 +54,66 @@ namespace {
 std::string NameFault(std::string_view name) {
   if (name.empty())
     return "a name must not be empty";
-  const bool printable = std::none_of(name.begin(), name.end(), [](char c) {
-    return c == '"' || static_cast<unsigned char>(c) < 0x20;
-  });
-  if (printable)
+  if (name.find('"') == std::string_view::npos && !HoldsControl(name, /*layoutPasses=*/false))
     return {};
   return "the name " + QuotedJson(name) +
          " holds a double quote or a control character, which a deck line cannot carry";
 }
 
+// "1e+20": the shortest text of `value`, for messages.
+std::string NumberText(double value) {
+  char digits[32];
+  const std::to_chars_result result = std::to_chars(digits, digits + sizeof digits, value);
+  return std::string(digits, result.ptr);
+}
+
+// Stands for the default of a field that has none: the field is required.
+struct Required {};
+
+// What the loader checks of a field by its declaration, after reading its
+// value: a count lies in its bounds, and the not-given mark reads as the field
+// left out (its default; an error for a required field).
+template <class M, class D> std::string SettleField(M& member, const D& fallback) {
+  constexpr const char* RequiredMark =
+      "the not-given mark stands for a field left out, and this field is required";
+  if constexpr (std::is_same_v<D, Count>) {
+    if (member < 0 || member > MaxCount)
+      return "expected a count from 0 to " + std::to_string(MaxCount) + ", found " +
+             std::to_string(member);
+  } else if constexpr (IsArray<M>) {
+    for (std::size_t i = 0; i < member.size(); ++i) {
+      if (!IsNotGivenMark(member[i]))
+        continue;
+      if constexpr (std::is_same_v<D, Required>)
+        return RequiredMark;
+      else
+        member[i] = M(fallback)[i];
+    }
+  } else if (IsNotGivenMark(member)) {
+    if constexpr (std::is_same_v<D, Required>)
+      return RequiredMark;
+    else
+      member = fallback;
+  }
+  return {};
+}
+
 namespace od = simdjson::ondemand;
+
+// The greatest angle of an instance's rotation, in degrees.
+constexpr double MaxRotationDegrees = 1e6;
 
 // The warnings of a model that loads: what the deck leaves out for now. This
 // is the one place that says so; it shrinks as the writer grows.
 // Collects the names of the gasket behaviours that a material holds.
 struct GasketOptionNames {
   std::vector<const char*> names;
-  template <class M> void operator()(const char*, M&) {}
-  template <class M, class D> void operator()(const char* name, M& member, const D&) {
+  template <class M> void operator()(FieldName, M&) {}
+  template <class M, class D> void operator()(FieldName name, M& member, const D&) {
     if constexpr (IsOptional<M>) {
       if constexpr (IsGasketOption<typename M::value_type>)
         if (member.has_value())
-          names.push_back(name);
+          names.push_back(name.text);
     }
   }
 };
@@ -108,8 +161,8 @@ void AddUnwrittenWarnings(const cow_Btree<cow_String, ddb_Model>& models,
 // A field left out of the file takes its default; a record left out takes the
 // default record, and the fields of that take their own defaults.
 struct DefaultFiller {
-  template <class M> void operator()(const char*, M&) {}
-  template <class M, class D> void operator()(const char*, M& member, const D& value);
+  template <class M> void operator()(FieldName, M&) {}
+  template <class M, class D> void operator()(FieldName, M& member, const D& value);
 };
 
 template <class M, class D> void SetDefault(M& member, const D& value) {
@@ -120,14 +173,14 @@ template <class M, class D> void SetDefault(M& member, const D& value) {
   }
 }
 
-template <class M, class D> void DefaultFiller::operator()(const char*, M& member, const D& value) {
+template <class M, class D> void DefaultFiller::operator()(FieldName, M& member, const D& value) {
   SetDefault(member, value);
 }
 
 struct NameCollector {
   std::vector<std::string_view> names;
-  template <class M> void operator()(const char* name, M&) { names.push_back(name); }
-  template <class M, class D> void operator()(const char* name, M&, const D&) {
+  template <class M> void operator()(FieldName name, M&) { names.push_back(name); }
+  template <class M, class D> void operator()(FieldName name, M&, const D&) {
     names.push_back(name);
   }
 };
@@ -155,6 +208,22 @@ int EditDistance(std::string_view a, std::string_view b) {
   return row[b.size()];
 }
 
+// The name of `names` closest to `text`, ignoring case, or nothing when none
+// is close enough to be what was meant.
+std::string_view NearestName(std::string_view text, std::span<const std::string_view> names) {
+  const std::string lower = Lower(text);
+  std::string_view best;
+  int bestDistance = 3;
+  for (const std::string_view name : names) {
+    const int distance = EditDistance(lower, Lower(name));
+    if (distance < bestDistance && 2 * distance < static_cast<int>(name.size())) {
+      best = name;
+      bestDistance = distance;
+    }
+  }
+  return best;
+}
+
 // "; did you mean "nodes"?" for a key close to one of the record's fields,
 // or to a key that the record refuses or drops by name.
 template <FieldRecord R> std::string Suggestion(std::string_view key) {
@@ -169,15 +238,7 @@ template <FieldRecord R> std::string Suggestion(std::string_view key) {
       if (option.holder == HolderOf<R>)
         collector.names.push_back(option.key);
   }
-  std::string_view best;
-  int bestDistance = 3;
-  for (const std::string_view name : collector.names) {
-    const int distance = EditDistance(Lower(key), Lower(name));
-    if (distance < bestDistance && 2 * distance < static_cast<int>(name.size())) {
-      best = name;
-      bestDistance = distance;
-    }
-  }
+  const std::string_view best = NearestName(key, collector.names);
   return best.empty() ? std::string() : "; did you mean " + QuotedJson(best) + "?";
 }
 
@@ -272,14 +333,16 @@ private:
   public:
     FieldReader(Reader& reader, std::string_view key, od::value value, std::uint64_t& seen)
         : reader_(reader), key_(key), value_(value), seen_(seen) {}
-    template <class M> void operator()(const char* name, M& member) { Visit(name, member); }
-    template <class M, class D> void operator()(const char* name, M& member, const D&) {
-      Visit(name, member);
+    template <class M> void operator()(FieldName name, M& member) {
+      Visit(name, member, Required());
+    }
+    template <class M, class D> void operator()(FieldName name, M& member, const D& fallback) {
+      Visit(name, member, fallback);
     }
     bool Found() const { return found_; }
 
   private:
-    template <class M> void Visit(const char* name, M& member) {
+    template <class M, class D> void Visit(FieldName name, M& member, const D& fallback) {
       const int index = index_++;
       assert(index < 64 && "a record of more than 64 fields");
       if (found_ || key_ != name)
@@ -292,7 +355,12 @@ private:
       }
       seen_ |= bit;
       PathScope scope(reader_, key_);
+      const int before = reader_.errors_.Count();
       reader_.Read(value_, member);
+      if (reader_.errors_.Count() != before)
+        return;
+      if (const std::string fault = SettleField(member, fallback); !fault.empty())
+        reader_.Error(fault);
     }
 
     Reader& reader_;
@@ -308,11 +376,11 @@ private:
   class FieldFinisher {
   public:
     FieldFinisher(Reader& reader, std::uint64_t seen) : reader_(reader), seen_(seen) {}
-    template <class M> void operator()(const char* name, M&) {
+    template <class M> void operator()(FieldName name, M&) {
       if (!Seen())
         reader_.Error("missing field " + QuotedJson(name));
     }
-    template <class M, class D> void operator()(const char*, M& member, const D& value) {
+    template <class M, class D> void operator()(FieldName, M& member, const D& value) {
       if (!Seen())
         SetDefault(member, value);
     }
@@ -388,17 +456,19 @@ private:
     }
     out = static_cast<float>(number);
     if (NeedsFloatFromText(number) || std::isinf(out)) [[unlikely]]
-      FloatFromText(value, out, indices...);
+      FloatFromText(value, number, out, indices...);
   }
   template <class... I>
   [[gnu::cold]] void BadInt(od::value value, simdjson::error_code error, I... indices);
   template <class... I>
   [[gnu::cold]] void BadReal(od::value value, simdjson::error_code error, I... indices);
-  template <class... I> [[gnu::cold]] void FloatFromText(od::value value, float& out, I... indices);
+  template <class... I>
+  [[gnu::cold]] void FloatFromText(od::value value, double number, float& out, I... indices);
 
   // One overload per kind of member.
   void Read(od::value value, cow_String& out);
   void Read(od::value value, DeckName& out);
+  void Read(od::value value, SolverText& out);
   void Read(od::value value, bool& out);
   void Read(od::value value, int& out) { ReadInt(value, out); }
   void Read(od::value value, double& out);
@@ -443,11 +513,17 @@ private:
   template <FieldRecord R> void ReadObject(od::object& object, R& out) {
     const int before = errors_.Count();
     ReadMembers(object, out);
-    if constexpr (ColumnCheckedRecord<R>) {
-      if (errors_.Count() == before && !Stopped())
-        CheckColumns(out);
-    }
+    if (errors_.Count() == before && !Stopped())
+      Check(out);
   }
+  // What a record's fields cannot say one by one, checked once the record is
+  // read without error.
+  template <class R> void Check(R&) {}
+  template <ColumnCheckedRecord R> void Check(R& record) { CheckColumns(record); }
+  void Check(ddb_NodeData& nodes) { CheckLabels("labels", nodes.labels); }
+  void Check(ddb_ElementClass& elements);
+  void Check(InstanceRotation& rotation);
+  void CheckLabels(const char* field, const cow_List<int>& labels);
 
   // The array handed over in memory whose placeholder is `value`, or null.
   const ExternalArray* External(od::value value) {
@@ -538,10 +614,16 @@ void Reader::BadReal(od::value value, simdjson::error_code error, I... indices) 
   Unexpected(value, error, "a number", indices...);
 }
 
-template <class... I> void Reader::FloatFromText(od::value value, float& out, I... indices) {
+template <class... I>
+void Reader::FloatFromText(od::value value, double number, float& out, I... indices) {
   const std::string_view token = Trimmed(value.raw_json_token());
   const std::from_chars_result result =
       std::from_chars(token.data(), token.data() + token.size(), out);
+  // Too small for a float is zero, with its sign; only too large is refused.
+  if (result.ec == std::errc::result_out_of_range && std::abs(number) < 1) {
+    out = std::copysign(0.0F, static_cast<float>(number));
+    return;
+  }
   if (result.ec == std::errc::result_out_of_range || std::isinf(out))
     ErrorAt(CoordinateRangeFault(token), indices...);
 }
@@ -726,6 +808,47 @@ void Reader::Read(od::value value, DeckName& out) {
     Error(fault);
 }
 
+void Reader::Read(od::value value, SolverText& out) {
+  const int before = errors_.Count();
+  Read(value, static_cast<cow_String&>(out));
+  if (errors_.Count() == before && HoldsControl(out.View(), /*layoutPasses=*/true))
+    Error("raw solver text may hold tabs and line ends but no other control character");
+}
+
+void Reader::CheckLabels(const char* field, const cow_List<int>& labels) {
+  PathScope scope(*this, field);
+  for (int i = 0; i < labels.Size(); ++i)
+    if (const int label = labels.ConstGet(i); label < 1) [[unlikely]]
+      ErrorAt("a label must be 1 or more, found " + std::to_string(label), i);
+}
+
+void Reader::Check(ddb_ElementClass& elements) {
+  CheckLabels("labels", elements.labels);
+  const std::string_view type = elements.type.View();
+  PathScope scope(*this, "type");
+  if (!IsWellFormedElementType(type)) {
+    Error(R"(an element type is letters, digits, "_" and "-", found )" + QuotedJson(type));
+    return;
+  }
+  if (IsKnownElementType(type) || IsUserElementType(type))
+    return;
+  std::string what = "element type " + QuotedJson(type) +
+                     " is neither one that keydeck knows nor a user element (types are "
+                     "case-sensitive";
+  if (const std::string_view nearest = NearestName(type, KnownElementTypes()); !nearest.empty())
+    what.append("; did you mean ").append(QuotedJson(nearest)).append("?");
+  Warn(what.append("); the deck carries it as given"));
+}
+
+void Reader::Check(InstanceRotation& rotation) {
+  // Beyond a million degrees a double no longer holds the angle to the
+  // precision that reducing it to one turn needs.
+  if (std::abs(rotation.angle) <= MaxRotationDegrees)
+    return;
+  PathScope scope(*this, "angle");
+  Error("expected an angle from -1e6 to 1e6 degrees, found " + NumberText(rotation.angle));
+}
+
 void Reader::Read(od::value value, bool& out) {
   if (const simdjson::error_code error = value.get_bool().get(out))
     Unexpected(value, error, "true or false");
@@ -901,7 +1024,7 @@ void Reader::Read(od::value value, kmaC_MaterialTable& out) {
 
 // "expected 4 columns (2 data, 1 temperature, 1 field variable), found 5".
 std::string ColumnsMessage(const TableColumns& columns, int found) {
-  const int fewest = columns.Fewest();
+  const std::int64_t fewest = columns.Fewest();
   std::string text = "expected ";
   if (columns.moreData)
     text.append("at least ");
@@ -929,13 +1052,13 @@ struct TableField {
   const char* name = nullptr;
   kmaC_MaterialTable* table = nullptr;
   int count = 0;
-  template <class M> void operator()(const char* fieldName, M& member) { Take(fieldName, member); }
-  template <class M, class D> void operator()(const char* fieldName, M& member, const D&) {
+  template <class M> void operator()(FieldName fieldName, M& member) { Take(fieldName, member); }
+  template <class M, class D> void operator()(FieldName fieldName, M& member, const D&) {
     Take(fieldName, member);
   }
-  template <class M> void Take(const char* fieldName, M& member) {
+  template <class M> void Take(FieldName fieldName, M& member) {
     if constexpr (std::is_same_v<M, kmaC_MaterialTable>) {
-      name = fieldName;
+      name = fieldName.text;
       table = &member;
       ++count;
     }
@@ -948,15 +1071,11 @@ template <ColumnCheckedRecord R> void Reader::CheckColumns(R& record) {
   TableField field;
   record.Fields(field);
   assert(field.count == 1 && "a record that knows its columns has one table");
+  // The fields' counts are bounded, so the columns fit an int.
   const TableColumns columns = record.ExpectedColumns();
-  if (columns.fieldVariables < 0) {
-    std::string what = "the number of field variables must be 0 or more, found ";
-    Error(what.append(std::to_string(columns.fieldVariables)));
-    return;
-  }
   kmaC_MaterialTable& table = *field.table;
   if (table.Rows() == 0) {
-    table = kmaC_MaterialTable(0, columns.Fewest());
+    table = kmaC_MaterialTable(0, static_cast<int>(columns.Fewest()));
     return;
   }
   if (columns.Fits(table.Cols()))
@@ -1232,8 +1351,18 @@ bool ReadFile(const char* path, simdjson::padded_string& text, LoadErrors& error
   return true;
 }
 
+// Editors on Windows start a file with the UTF-8 byte-order mark, which JSON
+// lets a reader ignore. It becomes blanks, so that columns and offsets in
+// messages still count the file's bytes.
+void BlankByteOrderMark(simdjson::padded_string& text) {
+  constexpr std::string_view Mark = "\xEF\xBB\xBF";
+  if (std::string_view(text.data(), text.size()).starts_with(Mark))
+    std::fill_n(text.data(), Mark.size(), ' ');
+}
+
 odb_Odb LoadText(simdjson::padded_string& text, std::string_view documentName,
                  const ExternalArrays& arrays, std::vector<std::string>& warnings) {
+  BlankByteOrderMark(text);
   LoadErrors errors;
   ModelFile file;
   file.format = FileFormat::Unknown;
@@ -1245,6 +1374,7 @@ odb_Odb LoadText(simdjson::padded_string& text, std::string_view documentName,
     whole = reader.Read(file);
   }
   text = simdjson::padded_string(); // the model holds all it needs from the text now
+  errors.EndReading();
   if (whole) {
     for (const cow_String& name : file.models.Keys())
       DeriveModel("models/" + std::string(name.View()), file.models.Get(name), errors);

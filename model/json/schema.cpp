@@ -1,5 +1,6 @@
 #include "model/json/schema.h"
 
+#include "model/element_types.h"
 #include "model/json/fields.h"
 #include "model/json/json_text.h"
 #include "model/json/unwritten.h"
@@ -15,6 +16,13 @@ namespace keydeck {
 
 namespace {
 
+// The loader's rules for names and raw solver text as patterns: a name holds
+// no double quote and no control character (U+0000..U+001F, DEL,
+// U+0080..U+009F); raw text may hold tabs and line ends.
+constexpr std::string_view NamePattern = R"(^[^"\u0000-\u001f\u007f-\u009f]+$)";
+constexpr std::string_view SolverTextPattern =
+    R"(^[^\u0000-\u0008\u000b\u000c\u000e-\u001f\u007f-\u009f]*$)";
+
 // Writes the schema of each kind of member. `Body` writes the keywords of a
 // schema object into an object already open, so that a property can add its
 // default beside them.
@@ -24,11 +32,17 @@ public:
 
   template <class M> void Schema(M value) {
     out_.OpenObject();
+    described_ = false;
     Body(value);
     out_.CloseObject();
   }
 
   void Body(const cow_String&) { Type("string"); }
+  void Body(const DeckName&) { NameBody(); }
+  void Body(const SolverText&) {
+    Type("string");
+    Pattern(SolverTextPattern);
+  }
   void Body(const bool&) { Type("boolean"); }
   void Body(const double&) { Type("number"); }
   void Body(const int&) {
@@ -97,6 +111,7 @@ public:
   template <class Base> void Body(const mdl_MapString2ObjCow<Base>&) {
     if constexpr (PolymorphicBase<Base>) {
       Type("object");
+      NameKeys();
       out_.Key("additionalProperties");
       out_.OpenObject();
       KindsBody<Base>([](auto type) { return typename decltype(type)::type(); });
@@ -118,6 +133,10 @@ public:
     out_.CloseObject();
   }
   template <FieldRecord R> void Body(R& record) {
+    if constexpr (requires { R::Description; })
+      Description(R::Description);
+    described_ = false; // the record's fields get their own
+    Constraints(record);
     Type("object");
     out_.Key("properties");
     out_.OpenObject();
@@ -164,18 +183,25 @@ private:
   class PropertyWriter {
   public:
     PropertyWriter(SchemaWriter& writer, KindWord kind) : writer_(writer), kind_(kind) {}
-    template <class M> void operator()(const char* name, M& member) {
-      writer_.out_.Key(name);
-      if (!kind_.field.empty() && kind_.field == name)
-        return writer_.Const(kind_.word);
-      writer_.Schema(member);
-    }
-    template <class M, class D> void operator()(const char* name, M& member, const D& value) {
+    template <class M> void operator()(FieldName name, M& member) {
       writer_.out_.Key(name);
       if (!kind_.field.empty() && kind_.field == name)
         return writer_.Const(kind_.word);
       writer_.out_.OpenObject();
+      writer_.described_ = false;
+      writer_.Description(name.description);
       writer_.Body(member);
+      writer_.out_.CloseObject();
+    }
+    template <class M, class D> void operator()(FieldName name, M& member, const D& value) {
+      writer_.out_.Key(name);
+      writer_.out_.OpenObject();
+      writer_.described_ = false;
+      writer_.Description(name.description);
+      if constexpr (std::is_same_v<D, Count>)
+        writer_.CountBody();
+      else
+        writer_.Body(member);
       const M fallback = value;
       writer_.Default(fallback);
       writer_.out_.CloseObject();
@@ -188,8 +214,8 @@ private:
 
   struct RequiredNames {
     std::vector<std::string_view> names;
-    template <class M> void operator()(const char* name, M&) { names.push_back(name); }
-    template <class M, class D> void operator()(const char*, M&, const D&) {}
+    template <class M> void operator()(FieldName name, M&) { names.push_back(name); }
+    template <class M, class D> void operator()(FieldName, M&, const D&) {}
   };
 
   // What the deck leaves out on purpose is accepted whatever its value.
@@ -206,6 +232,83 @@ private:
     out_.Key("const");
     out_.String(word);
     out_.CloseObject();
+  }
+  // The "description" of a field, or of a record where no field describes
+  // it; one to a schema object.
+  void Description(const char* text) {
+    if (text == nullptr || described_)
+      return;
+    out_.Key("description");
+    out_.String(text);
+    described_ = true;
+  }
+  // What the fields of a record say together, beyond each field alone.
+  template <FieldRecord R> void Constraints(const R&) {}
+  void Constraints(const ddb_ElementClass&) {
+    FieldConstraint("type", [&] { Pattern(ElementTypePattern); });
+  }
+  void Constraints(const PartSet&) { ExactlyOneOf("nodes", "elements"); }
+  void Constraints(const AssemblySet&) { ExactlyOneOf("nodes", "elements"); }
+  void Constraints(const PartSurface&) { ExactlyOneOf("faces", "nodes"); }
+  void Constraints(const AssemblySurface&) { ExactlyOneOf("faces", "nodes"); }
+  void Constraints(const LabelRange&) {
+    FieldConstraint("generate", [&] { // the step, the third item, is 1 or more
+      out_.Key("prefixItems");
+      out_.OpenArray(/*oneLine=*/true);
+      EmptyObject();
+      EmptyObject();
+      out_.OpenObject();
+      out_.Key("minimum");
+      out_.Integer(1);
+      out_.CloseObject();
+      out_.CloseArray();
+    });
+  }
+  // {"allOf": [{"properties": {NAME: {KEYWORDS}}}]}: a rule on one field
+  // beside the record's own "properties", which say the field's type.
+  template <class F> void FieldConstraint(std::string_view name, F&& keywords) {
+    out_.Key("allOf");
+    out_.OpenArray(/*oneLine=*/false);
+    out_.OpenObject();
+    out_.Key("properties");
+    out_.OpenObject();
+    out_.Key(name);
+    out_.OpenObject();
+    keywords();
+    out_.CloseObject();
+    out_.CloseObject();
+    out_.CloseObject();
+    out_.CloseArray();
+  }
+  void ExactlyOneOf(std::string_view first, std::string_view second) {
+    out_.Key("oneOf");
+    out_.OpenArray(/*oneLine=*/false);
+    for (const std::string_view name : {first, second}) {
+      out_.OpenObject();
+      out_.Key("required");
+      out_.OpenArray(/*oneLine=*/true);
+      out_.String(name);
+      out_.CloseArray();
+      out_.CloseObject();
+    }
+    out_.CloseArray();
+  }
+  void NameBody() {
+    Type("string");
+    out_.Key("minLength");
+    out_.Integer(1);
+    Pattern(NamePattern);
+  }
+  void CountBody() {
+    Type("integer");
+    out_.Key("minimum");
+    out_.Integer(0);
+    out_.Key("maximum");
+    out_.Integer(MaxCount);
+  }
+  void Pattern(std::string_view pattern) {
+    out_.Key("pattern");
+    out_.String(pattern);
   }
   void Type(std::string_view type) {
     out_.Key("type");
@@ -229,8 +332,16 @@ private:
   }
   template <class Entry> void MapOf(Entry entry) {
     Type("object");
+    NameKeys();
     out_.Key("additionalProperties");
     Schema(entry);
+  }
+  // The keys of a map are names.
+  void NameKeys() {
+    out_.Key("propertyNames");
+    out_.OpenObject();
+    NameBody();
+    out_.CloseObject();
   }
 
   // The "default" of an optional field. A record's default is the record
@@ -275,6 +386,7 @@ private:
 
   JsonText& out_;
   KindWord kind_; // for the next record's properties only
+  bool described_ = false; // the schema object being written has its description
 };
 
 } // namespace

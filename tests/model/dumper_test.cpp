@@ -1,4 +1,5 @@
 #include "model/json/dumper.h"
+#include "model/json/json_text.h"
 #include "model/json/loader.h"
 
 #include <gtest/gtest.h>
@@ -134,15 +135,23 @@ TEST(Dumper, LeavesDefaultsOutAndKeepsItsLayout) {
 
 TEST(Dumper, EscapesText) {
   ddb_Model model;
-  model.solverInput_ = "a\"b\\c\nd\x01\x1f\t\xC3\xA9";
+  model.solverInput_ = "a\"b\\c\nd\t\xC3\xA9";
   ddb_Ddb ddb;
   ddb.models_.Insert("M \\1", model);
   const std::string dump = DumpModel(odb_Odb(ddb));
-  EXPECT_NE(dump.find(R"("solverInput": "a\"b\\c\nd\u0001\u001f\t)"
+  EXPECT_NE(dump.find(R"("solverInput": "a\"b\\c\nd\t)"
                       "\xC3\xA9\""),
             std::string::npos);
   const odb_Odb reloaded = Load(dump);
   EXPECT_EQ(reloaded.ddb().model("M \\1").solverInput(), model.solverInput_);
+}
+
+// Control characters never reach a terminal or a file raw: C0, DEL and C1
+// (U+0080..U+009F, two bytes in UTF-8); other UTF-8 text stays as it is.
+TEST(Dumper, QuotedTextEscapesEveryControlCharacter) {
+  EXPECT_EQ(QuotedJson("\x01\x1f\x7f\xC2\x85\xC2\x9F\xC2\xA0\xC3\xA9\xC2"),
+            R"("\u0001\u001f\u007f\u0085\u009f)"
+            "\xC2\xA0\xC3\xA9\xC2\"");
 }
 
 // Reals of every magnitude go out and come back bit for bit: doubles in a
@@ -169,7 +178,7 @@ TEST(Dumper, RealsRoundTripExactly) {
   }
   ddb_Part part;
   for (std::size_t i = 0; i < floats.size(); i += 3) {
-    part.mesh_.nodes.labels.Append(static_cast<int>(i));
+    part.mesh_.nodes.labels.Append(static_cast<int>(i) + 1);
     part.mesh_.nodes.coordinates.Append(
         {floats[i], floats[(i + 1) % floats.size()], floats[(i + 2) % floats.size()]});
   }

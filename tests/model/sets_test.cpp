@@ -276,8 +276,10 @@ TEST(AssemblySets, Messages) {
       {"unknown instance",
        WithAssembly(R"(, "sets": {"E": {"nodes": [{"instance": "I-9", "labels": [1]}]}},
            "surfaces": {"F": {"faces": [{"instance": "", "face": "S1", "elements": [1]}]}})"),
-       {R"(models/M/assembly/sets/E/nodes/0/instance: no instance "I-9")",
-        R"(models/M/assembly/surfaces/F/faces/0/instance: no instance "")"}},
+       // A reference is a name, so the loader refuses an empty one before any
+       // lookup.
+       {R"(models/M/assembly/surfaces/F/faces/0/instance: a name must not be empty)",
+        R"(models/M/assembly/sets/E/nodes/0/instance: no instance "I-9")"}},
       {"unknown labels",
        WithAssembly(R"(, "sets": {"E": {"elements": [{"instance": "I-1", "labels": [1, 99]}]},
                                   "N": {"nodes": [{"instance": "I-2", "labels": {"generate": [12, 14, 1]}}]}})"),
