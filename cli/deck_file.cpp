@@ -127,13 +127,11 @@ void DeckFile::CreateTemporary(const std::string& job) {
   // umask gives a new file.
   for (int attempt = 0; attempt < 100; ++attempt) {
     std::string name = std::string(TemporaryPrefix) + RandomPart() + "." + job + ".inp";
-    const int descriptor = openat(folderDescriptor_, name.c_str(),
-                                  O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
+    const int descriptor = CreateNew(name);
     if (descriptor < 0 && errno == EEXIST)
       continue;
     if (descriptor < 0)
       break;
-    RemoveOnInterrupt(folderDescriptor_, name.c_str());
     temporaryName_ = std::move(name);
     output_ = fdopen(descriptor, "w");
     if (output_ != nullptr)
@@ -146,6 +144,15 @@ void DeckFile::CreateTemporary(const std::string& job) {
   const std::string reason = SystemError();
   close(folderDescriptor_);
   Raise("cannot write a deck in \"" + folder_ + "\": " + reason);
+}
+
+int DeckFile::CreateNew(const std::string& name) {
+  const InterruptsHeld held; // no moment when the file exists and a signal leaves it
+  const int descriptor = openat(folderDescriptor_, name.c_str(),
+                                O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
+  if (descriptor >= 0)
+    RemoveOnInterrupt(folderDescriptor_, name.c_str());
+  return descriptor;
 }
 
 void DeckFile::Commit() {

@@ -41,6 +41,9 @@ public:
 private:
   void RemoveStale();
   void CreateTemporary(const std::string& job);
+  /// Creates the file `name` in the folder and has interrupts remove it;
+  /// returns its descriptor, or -1 with `errno` set.
+  int CreateNew(const std::string& name);
 
   std::string folder_;
   std::string final_;
