@@ -31,35 +31,34 @@ void oif_Set::ComputeData(const rgnC_SetData& setData, const ddb_Mesh& mesh) {
 
 void oif_Set::AddNodes(const rgnC_SetData& setData, const ddb_Mesh& mesh) {
   const cow_List<int>& nodeLabels = mesh.nodeData().UserNodeLabels();
-  std::vector<int> labels;
+  keydeck::IndexListBuilder labels;
   for (int i = 0; i < setData.NumSubsets(); ++i) {
     const rgnC_SubsetData& subset = setData.SubSet(i);
     if (subset.MeshIndex() != mesh.meshIndex())
       continue;
-    labels.reserve(labels.size() + static_cast<std::size_t>(subset.Size()));
     for (const int index : subset.indices)
       if (index >= 0 && index < nodeLabels.Size()) // an index outside the mesh is dropped
-        labels.push_back(nodeLabels.UncheckedConstGet(index));
+        labels.Append(nodeLabels.UncheckedConstGet(index));
   }
-  labels_.SetFromArray(labels.data(), static_cast<int>(labels.size()));
+  labels_ = labels.Take();
 }
 
 void oif_Set::AddElements(const rgnC_SetData& setData, const ddb_Mesh& mesh) {
-  std::vector<int> labels;
+  keydeck::IndexListBuilder labels;
   for (int i = 0; i < setData.NumSubsets(); ++i) {
     const rgnC_SubsetData& subset = setData.SubSet(i);
     if (subset.MeshIndex() != mesh.meshIndex() || subset.ClassIndex() < 0)
       continue;
     const cow_List<int>& elementLabels =
         mesh.elementData().elementClass(subset.ClassIndex()).userElementLabelsAsFlatArray();
-    labels.reserve(labels.size() + static_cast<std::size_t>(subset.Size()));
     for (const int index : subset.indices)
-      labels.push_back(elementLabels.ConstGet(index));
+      labels.Append(elementLabels.ConstGet(index));
   }
-  labels_.SetFromArray(labels.data(), static_cast<int>(labels.size()));
+  labels_ = labels.Take();
 }
 
 void oif_Set::AddFacets(const rgnC_SetData& setData, const ddb_Mesh& mesh) {
+  keydeck::IndexListBuilder labels;
   for (int i = 0; i < setData.NumSubsets(); ++i) {
     const rgnC_SubsetData& subset = setData.SubSet(i);
     if (subset.MeshIndex() != mesh.meshIndex() || subset.ClassIndex() < 0 || subset.indices.Empty())
@@ -75,7 +74,7 @@ void oif_Set::AddFacets(const rgnC_SetData& setData, const ddb_Mesh& mesh) {
             : "";
     for (int j = 0; j < subset.indices.Size(); ++j) {
       const int facet = subset.facetIds.ConstGet(j);
-      labels_.Append(elementLabels.ConstGet(subset.indices.UncheckedConstGet(j)));
+      labels.Append(elementLabels.ConstGet(subset.indices.UncheckedConstGet(j)));
       if (!bySide) {
         faceNames_.Append(prefix + cow_String(facet + 1));
         continue;
@@ -89,32 +88,35 @@ void oif_Set::AddFacets(const rgnC_SetData& setData, const ddb_Mesh& mesh) {
         faceNames_.Append(cow_String());
     }
   }
+  labels_ = labels.Take();
 }
 
 void oif_Set::SortUnique() {
+  if (labels_.IsStepped()) { // sorted already, or backwards, or one label repeated
+    const int step = labels_.Step();
+    const int count = step == 0 ? std::min(labels_.Size(), 1) : labels_.Size();
+    const int lowest = step < 0 ? labels_.UncheckedConstGet(count - 1) : labels_.First();
+    labels_ = keydeck::IndexList::Stepped(lowest, step < 0 ? -step : step, count);
+    return;
+  }
   std::vector<int> labels(labels_.begin(), labels_.end());
   std::sort(labels.begin(), labels.end());
   labels.erase(std::unique(labels.begin(), labels.end()), labels.end());
-  labels_.SetFromArray(labels.data(), static_cast<int>(labels.size()));
+  keydeck::IndexListBuilder sorted;
+  for (const int label : labels)
+    sorted.Append(label);
+  labels_ = sorted.Take();
 }
 
 bool oif_Set::CanGenerate() {
-  generate_ = true;
   SortUnique();
-  if (labels_.Size() < 3)
-    return generate_ = false;
-  first_ = labels_.UncheckedConstGet(0);
-  last_ = labels_.UncheckedConstGet(labels_.Size() - 1);
-  step_ = labels_.UncheckedConstGet(1) - first_;
-  for (int i = 2; i < labels_.Size(); ++i)
-    if (labels_.UncheckedConstGet(i) - labels_.UncheckedConstGet(i - 1) != step_)
-      return generate_ = false;
-  return generate_;
+  return generate_ = labels_.IsStepped() && labels_.Size() >= 3;
 }
 
 void oif_Set::WriteData(utl_Stream& s) const {
   if (generate_) {
-    s << first_ << ", " << last_ << ", " << step_ << endl;
+    s << labels_.First() << ", " << labels_.UncheckedConstGet(labels_.Size() - 1) << ", "
+      << labels_.Step() << endl;
     return;
   }
   const int count = labels_.Size();

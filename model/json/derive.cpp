@@ -274,12 +274,12 @@ public:
   // still has it.
   void Open(int meshIndex, int classIndex) { Find(meshIndex, classIndex); }
   void Add(int meshIndex, int classIndex, int index) {
-    Find(meshIndex, classIndex).indices.push_back(index);
+    Find(meshIndex, classIndex).indices.Append(index);
   }
   void Add(int meshIndex, int classIndex, int index, int facetId) {
     Pending& pending = Find(meshIndex, classIndex);
-    pending.indices.push_back(index);
-    pending.facetIds.push_back(facetId);
+    pending.indices.Append(index);
+    pending.facetIds.Append(facetId);
   }
   // The subsets in the order in which their pairs first appeared or, with
   // `byClass`, in class order.
@@ -289,8 +289,8 @@ private:
   struct Pending {
     int meshIndex;
     int classIndex;
-    std::vector<int> indices;
-    std::vector<int> facetIds;
+    IndexListBuilder indices; // a range stays three numbers
+    IndexListBuilder facetIds;
   };
 
   Pending& Find(int meshIndex, int classIndex) {
@@ -311,12 +311,6 @@ private:
   std::size_t last_ = 0;
 };
 
-cow_List<int> ListOf(const std::vector<int>& values) {
-  cow_List<int> list;
-  list.SetFromArray(values.data(), static_cast<int>(values.size()));
-  return list;
-}
-
 cow_List<rgnC_SubsetData> SubsetCollector::Take(bool byClass) {
   if (byClass)
     std::stable_sort(pending_.begin(), pending_.end(), [](const Pending& a, const Pending& b) {
@@ -324,13 +318,12 @@ cow_List<rgnC_SubsetData> SubsetCollector::Take(bool byClass) {
     });
   cow_List<rgnC_SubsetData> subsets =
       cow_List<rgnC_SubsetData>::WithCapacity(static_cast<int>(pending_.size()));
-  for (const Pending& pending : pending_) {
+  for (Pending& pending : pending_) {
     rgnC_SubsetData subset;
     subset.meshIndex = pending.meshIndex;
     subset.classIndex = pending.classIndex;
-    subset.indices = ListOf(pending.indices);
-    if (!pending.facetIds.empty())
-      subset.facetIds = ListOf(pending.facetIds);
+    subset.indices = pending.indices.Take();
+    subset.facetIds = pending.facetIds.Take();
     subsets.Append(std::move(subset));
   }
   pending_.clear();
