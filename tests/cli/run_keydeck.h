@@ -24,9 +24,10 @@ struct Outcome {
 };
 
 /// Starts the keydeck binary with `args`; its standard output and error go to
-/// files in `folder`, its standard input comes from `input` (when given).
+/// files in `folder`, its standard input comes from `input` (when given), and
+/// its address space is limited to `addressLimit` bytes (when not 0).
 inline pid_t StartKeydeck(const std::vector<std::string>& args, const std::filesystem::path& folder,
-                          const std::filesystem::path& input = {}) {
+                          const std::filesystem::path& input = {}, rlim_t addressLimit = 0) {
   const std::filesystem::path out = folder / "stdout.txt";
   const std::filesystem::path err = folder / "stderr.txt";
   const pid_t pid = fork();
@@ -35,6 +36,9 @@ inline pid_t StartKeydeck(const std::vector<std::string>& args, const std::files
   if (std::freopen(out.c_str(), "w", stdout) == nullptr ||
       std::freopen(err.c_str(), "w", stderr) == nullptr ||
       (!input.empty() && std::freopen(input.c_str(), "r", stdin) == nullptr))
+    _exit(126);
+  const rlimit limit{addressLimit, addressLimit};
+  if (addressLimit != 0 && setrlimit(RLIMIT_AS, &limit) != 0)
     _exit(126);
   std::vector<char*> argv{const_cast<char*>(KEYDECK_BINARY)};
   for (const std::string& arg : args)

@@ -1,0 +1,144 @@
+// What a model file can make `keydeck write` spend: memory grows with the
+// file, not with what its ranges say, and running out of memory is a message.
+#include "bench/benchmark_model.h"
+#include "tests/cli/run_keydeck.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <unistd.h>
+#include <vector>
+
+#if defined(__SANITIZE_ADDRESS__)
+#define KEYDECK_ASAN 1
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define KEYDECK_ASAN 1
+#endif
+#endif
+
+namespace {
+
+namespace fs = std::filesystem;
+using keydeck::test::Outcome;
+using keydeck::test::RunKeydeck;
+
+// The memory a write may take beyond three times its file: the program, its
+// libraries and the fixed tables of the writer.
+constexpr long AllowanceKilobytes = 32 * 1024;
+
+class Resources : public ::testing::Test {
+protected:
+  void SetUp() override {
+    folder_ = fs::temp_directory_path() /
+              ("keydeck-resources-" + std::to_string(getpid()) + "-" +
+               ::testing::UnitTest::GetInstance()->current_test_info()->name());
+    fs::remove_all(folder_);
+    fs::create_directories(Out());
+  }
+  void TearDown() override { fs::remove_all(folder_); }
+
+  fs::path Out() const { return folder_ / "out"; }
+  std::vector<std::string> Written() const {
+    std::vector<std::string> names;
+    for (const auto& entry : fs::directory_iterator(Out()))
+      names.push_back(entry.path().filename().string());
+    return names;
+  }
+  /// A block of `size`^3 nodes with `sets` as the part's sets; returns the
+  /// file's size in bytes.
+  long long WriteModel(const fs::path& path, int size, const std::string& sets) const {
+    keydeck_bench::ModelShape shape;
+    shape.size = size;
+    shape.withSets = false;
+    const keydeck_bench::TextBuffer buffer = keydeck_bench::ModelText(shape);
+    std::string text(buffer.Data(), buffer.Size());
+    text.insert(text.find("\n}\n},\n\"assembly\""), ",\n\"sets\": {" + sets + "}");
+    std::ofstream(path, std::ios::binary) << text;
+    return static_cast<long long>(text.size());
+  }
+
+  fs::path folder_;
+};
+
+TEST_F(Resources, RangesCostNoMemoryPerLabel) {
+  // 27,000 nodes and bricks; 500 node sets and 500 element sets over all of
+  // them (and every third of them) would take over 100 MB spelt out.
+  std::string sets;
+  for (int i = 0; i < 500; ++i)
+    sets += (i == 0 ? "" : ",\n") + ("\"N" + std::to_string(i)) +
+            "\": {\"nodes\": {\"generate\": [1, 27000, " + std::to_string(1 + i % 3) + "]}}" +
+            (",\n\"E" + std::to_string(i)) + "\": {\"elements\": {\"generate\": [1, 24389, 1]}}";
+  const fs::path model = folder_ / "ranges.json";
+  const long long bytes = WriteModel(model, 30, sets);
+  const Outcome run =
+      RunKeydeck({"write", model.string(), "-o", Out().string(), "-j", "job", "-q"}, folder_);
+  ASSERT_EQ(run.status, 0) << run.err;
+  const std::string deck = keydeck::test::ReadFile((Out() / "job.inp").string());
+  EXPECT_NE(deck.find("*Nset, nset=N499, generate\n1, 26999, 2\n"), std::string::npos);
+  EXPECT_NE(deck.find("*Elset, elset=E0, generate\n1, 24389, 1\n"), std::string::npos);
+#ifndef KEYDECK_ASAN // the sanitizers' own memory would swamp the figure
+  EXPECT_LT(run.peakKilobytes, 3 * bytes / 1024 + AllowanceKilobytes)
+      << "file " << bytes / 1024 << " kB";
+#endif
+}
+
+TEST_F(Resources, RangesOverLabelsThatDoNotExist) {
+  const fs::path model = folder_ / "beyond.json";
+  const long long bytes =
+      WriteModel(model, 10,
+                 R"("Far": {"nodes": {"generate": [1, 2000000000, 1]}},)"
+                 R"("Huge": {"elements": {"generate": [700, 2147483647, 1000]}})");
+  const Outcome run = RunKeydeck({"write", model.string(), "-o", Out().string()}, folder_);
+  EXPECT_EQ(run.status, 1);
+  EXPECT_EQ(run.err,
+            "keydeck: models/Default Model/parts/Block/sets/Far/nodes/generate: no node 1001 in "
+            "the part\n"
+            "models/Default Model/parts/Block/sets/Huge/elements/generate: no element 1700 in the "
+            "part\n");
+  EXPECT_TRUE(Written().empty());
+#ifndef KEYDECK_ASAN
+  EXPECT_LT(run.peakKilobytes, 3 * bytes / 1024 + AllowanceKilobytes);
+#endif
+}
+
+#ifndef KEYDECK_ASAN // the sanitizers need more address space than any limit here
+TEST_F(Resources, RunningOutOfMemoryIsAMessage) {
+  // Find the least address space a write needs, then run it with a little
+  // less, step by step: every run ends with exit status 1 and one message that
+  // says what ran out, and leaves nothing in the folder.
+  const fs::path model = folder_ / "block.json";
+  WriteModel(model, 40, "");
+  const std::vector<std::string> args = {"write", model.string(), "-o", Out().string(), "-q"};
+  const auto runWith = [&](rlim_t limit) {
+    return keydeck::test::FinishKeydeck(keydeck::test::StartKeydeck(args, folder_, {}, limit),
+                                        folder_);
+  };
+  rlim_t enough = rlim_t{4} << 30;
+  rlim_t tooLittle = rlim_t{8} << 20;
+  ASSERT_EQ(runWith(enough).status, 0);
+  while (enough - tooLittle > (rlim_t{64} << 10)) {
+    const rlim_t middle = tooLittle + (enough - tooLittle) / 2;
+    (runWith(middle).status == 0 ? enough : tooLittle) = middle;
+  }
+  fs::remove_all(Out());
+  fs::create_directories(Out());
+  int named = 0;
+  for (rlim_t less = 64 << 10; less <= (rlim_t{6} << 20); less += 256 << 10) {
+    const Outcome run = runWith(enough - less);
+    SCOPED_TRACE(run.err);
+    ASSERT_EQ(run.signal, 0);
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.err.find("bad_alloc"), std::string::npos);
+    EXPECT_NE(run.err.find("out of memory"), std::string::npos);
+    named += run.err.find("keydeck: out of memory while ") == 0 &&
+             run.err.find(model.string()) != std::string::npos;
+    EXPECT_TRUE(Written().empty());
+  }
+  EXPECT_GT(named, 0);
+}
+#endif
+
+} // namespace
