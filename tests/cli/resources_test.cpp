@@ -64,10 +64,10 @@ protected:
 };
 
 TEST_F(Resources, RangesCostNoMemoryPerLabel) {
-  // 27,000 nodes and bricks; 500 node sets and 500 element sets over all of
-  // them (and every third of them) would take over 100 MB spelt out.
+  // 27,000 nodes and bricks; 300 node sets and 300 element sets over all of
+  // them (and every third of them) would take about 100 MB spelt out.
   std::string sets;
-  for (int i = 0; i < 500; ++i)
+  for (int i = 0; i < 300; ++i)
     sets += (i == 0 ? "" : ",\n") + ("\"N" + std::to_string(i)) +
             "\": {\"nodes\": {\"generate\": [1, 27000, " + std::to_string(1 + i % 3) + "]}}" +
             (",\n\"E" + std::to_string(i)) + "\": {\"elements\": {\"generate\": [1, 24389, 1]}}";
@@ -77,7 +77,7 @@ TEST_F(Resources, RangesCostNoMemoryPerLabel) {
       RunKeydeck({"write", model.string(), "-o", Out().string(), "-j", "job", "-q"}, folder_);
   ASSERT_EQ(run.status, 0) << run.err;
   const std::string deck = keydeck::test::ReadFile((Out() / "job.inp").string());
-  EXPECT_NE(deck.find("*Nset, nset=N499, generate\n1, 26999, 2\n"), std::string::npos);
+  EXPECT_NE(deck.find("*Nset, nset=N299, generate\n1, 26998, 3\n"), std::string::npos);
   EXPECT_NE(deck.find("*Elset, elset=E0, generate\n1, 24389, 1\n"), std::string::npos);
 #ifndef KEYDECK_ASAN // the sanitizers' own memory would swamp the figure
   EXPECT_LT(run.peakKilobytes, 3 * bytes / 1024 + AllowanceKilobytes)
@@ -140,5 +140,30 @@ TEST_F(Resources, RunningOutOfMemoryIsAMessage) {
   EXPECT_GT(named, 0);
 }
 #endif
+
+} // namespace
+
+namespace {
+
+TEST_F(Resources, SetsKeepTheirDeckForm) {
+  // Labels in any order, repeated or stepping, come out sorted and once
+  // each, in generate form when at least three step evenly.
+  const fs::path model = folder_ / "forms.json";
+  WriteModel(model, 4,
+             R"("A": {"nodes": [9, 5, 1, 13, 5]}, "B": {"nodes": {"generate": [2, 3, 1]}},)"
+             R"("C": {"nodes": [64, 63, 1]}, "D": {"elements": [27, 26, 25, 24]},)"
+             R"("E": {"elements": [7, 7, 7]}, "F": {"nodes": {"generate": [10, 64, 27]}})");
+  const Outcome run = RunKeydeck({"write", model.string(), "--stdout", "-q"}, folder_);
+  ASSERT_EQ(run.status, 0) << run.err;
+  const std::size_t from = run.out.find("*Nset, nset=A");
+  ASSERT_NE(from, std::string::npos) << run.out;
+  EXPECT_EQ(run.out.substr(from, run.out.find("*End Instance") - from),
+            "*Nset, nset=A, generate\n1, 13, 4\n"
+            "*Nset, nset=B\n2,3\n"
+            "*Nset, nset=C\n1,63,64\n"
+            "*Elset, elset=D, generate\n24, 27, 1\n"
+            "*Elset, elset=E\n7, \n"
+            "*Nset, nset=F, generate\n10, 64, 27\n");
+}
 
 } // namespace
