@@ -113,6 +113,17 @@ public:
     values_.push_back(value);
     ++count_;
   }
+  /// Appends `count` values from `first` on, `step` apart, at once where it can.
+  void AppendStepped(int first, int step, int count) {
+    if (count_ == 0 && stepped_) {
+      first_ = first;
+      step_ = step;
+      count_ = count;
+      return;
+    }
+    for (int i = 0; i < count; ++i)
+      Append(static_cast<int>(first + static_cast<long long>(i) * step));
+  }
   int Size() const { return count_; }
   /// The list; the builder is empty afterwards.
   IndexList Take();
@@ -271,6 +282,13 @@ public:
     for (long long label = range.First(); label <= range.Last(); label += range.Step())
       if (!use(static_cast<int>(label)))
         return;
+  }
+
+  /// The number of labels, repeats included.
+  int Size() const {
+    return isRange ? static_cast<int>(
+                         (static_cast<long long>(range.Last()) - range.First()) / range.Step() + 1)
+                   : labels.Size();
   }
 
   cow_List<int> labels; ///< when the file gives a list

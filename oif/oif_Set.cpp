@@ -9,6 +9,48 @@
 #include <algorithm>
 #include <vector>
 
+namespace {
+
+/// Whether the labels at stepped indices step evenly too, as they do over
+/// labels numbered in order.
+bool LabelsStep(const keydeck::IndexList& indices, const cow_List<int>& labels) {
+  const int count = indices.Size();
+  const long long first = labels.UncheckedConstGet(indices.First());
+  const long long step =
+      count < 2 ? 0 : labels.UncheckedConstGet(indices.UncheckedConstGet(1)) - first;
+  if (step != static_cast<int>(step))
+    return false;
+  for (int i = 2; i < count; ++i)
+    if (labels.UncheckedConstGet(indices.UncheckedConstGet(i)) != first + i * step)
+      return false;
+  return true;
+}
+
+/// Whether every index lies inside a list of `size`.
+bool AllInside(const keydeck::IndexList& indices, int size) {
+  if (!indices.IsStepped())
+    return std::all_of(indices.begin(), indices.end(),
+                       [size](int index) { return index >= 0 && index < size; });
+  const int last = indices.UncheckedConstGet(std::max(indices.Size() - 1, 0));
+  return indices.Empty() ||
+         (std::min(indices.First(), last) >= 0 && std::max(indices.First(), last) < size);
+}
+
+/// Appends the labels at `indices`; a range of them stays a range.
+void AppendLabels(keydeck::IndexListBuilder& out, const keydeck::IndexList& indices,
+                  const cow_List<int>& labels) {
+  if (indices.IsStepped() && indices.Size() > 2 && AllInside(indices, labels.Size()) &&
+      LabelsStep(indices, labels)) {
+    const int first = labels.UncheckedConstGet(indices.First());
+    return out.AppendStepped(first, labels.UncheckedConstGet(indices.UncheckedConstGet(1)) - first,
+                             indices.Size());
+  }
+  for (const int index : indices)
+    out.Append(labels.ConstGet(index));
+}
+
+} // namespace
+
 oif_Set::oif_Set(const rgnC_SetData& setData, const ddb_Assembly& assembly) {
   if (assembly.hasMesh())
     ComputeData(setData, assembly.mesh());
@@ -36,6 +78,10 @@ void oif_Set::AddNodes(const rgnC_SetData& setData, const ddb_Mesh& mesh) {
     const rgnC_SubsetData& subset = setData.SubSet(i);
     if (subset.MeshIndex() != mesh.meshIndex())
       continue;
+    if (AllInside(subset.indices, nodeLabels.Size())) {
+      AppendLabels(labels, subset.indices, nodeLabels);
+      continue;
+    }
     for (const int index : subset.indices)
       if (index >= 0 && index < nodeLabels.Size()) // an index outside the mesh is dropped
         labels.Append(nodeLabels.UncheckedConstGet(index));
@@ -51,8 +97,7 @@ void oif_Set::AddElements(const rgnC_SetData& setData, const ddb_Mesh& mesh) {
       continue;
     const cow_List<int>& elementLabels =
         mesh.elementData().elementClass(subset.ClassIndex()).userElementLabelsAsFlatArray();
-    for (const int index : subset.indices)
-      labels.Append(elementLabels.ConstGet(index));
+    AppendLabels(labels, subset.indices, elementLabels);
   }
   labels_ = labels.Take();
 }

@@ -36,6 +36,16 @@ public:
   void Reserve(int count, int lowest, int highest);
   // Enters `label` at `position`; returns the position that already has it, or -1.
   int Insert(int label, int position);
+  // The position of the first label of `range` when every label of it is
+  // there and positions step as labels do (labels numbered in order from the
+  // lowest, as usual); otherwise -1.
+  int SteppedStart(const LabelRange& range) const {
+    const std::int64_t steps =
+        (static_cast<std::int64_t>(range.Last()) - range.First()) / range.Step();
+    const std::int64_t last = range.First() + steps * range.Step();
+    const bool inside = range.First() >= lowest_ && last - lowest_ < inserted_;
+    return ordered_ && inside ? static_cast<int>(range.First() - lowest_) : -1;
+  }
   // The position of `label`, or -1.
   int Find(int label) const {
     if (dense_) {
@@ -57,6 +67,8 @@ private:
   }
 
   bool dense_ = true;
+  bool ordered_ = true; // dense, and each label at its offset from the lowest
+  std::int64_t inserted_ = 0;
   std::int64_t lowest_ = 0;
   std::vector<int> slots_;  // positions; -1 for none
   std::vector<int> labels_; // hash table only: the label in each slot
@@ -82,6 +94,8 @@ void LabelIndex::Reserve(int count, int lowest, int highest) {
 }
 
 int LabelIndex::Insert(int label, int position) {
+  ordered_ = ordered_ && dense_ && static_cast<std::int64_t>(label) - lowest_ == position;
+  ++inserted_;
   if (dense_) {
     int& slot = slots_[static_cast<std::size_t>(static_cast<std::int64_t>(label) - lowest_)];
     if (slot >= 0)
@@ -275,6 +289,10 @@ public:
   void Open(int meshIndex, int classIndex) { Find(meshIndex, classIndex); }
   void Add(int meshIndex, int classIndex, int index) {
     Find(meshIndex, classIndex).indices.Append(index);
+  }
+  // Adds `count` indices from `first` on, `step` apart.
+  void AddStepped(int meshIndex, int classIndex, int first, int step, int count) {
+    Find(meshIndex, classIndex).indices.AppendStepped(first, step, count);
   }
   void Add(int meshIndex, int classIndex, int index, int facetId) {
     Pending& pending = Find(meshIndex, classIndex);
@@ -497,6 +515,9 @@ private:
   void AddNodes(const LabelList& list, const LabelScope& scope, const std::string& path,
                 SubsetCollector& members) {
     members.Open(scope.meshIndex, -1);
+    const int start = list.isRange ? scope.labels->nodes.SteppedStart(list.range) : -1;
+    if (start >= 0)
+      return members.AddStepped(scope.meshIndex, -1, start, list.range.Step(), list.Size());
     Lookup(list, scope.labels->nodes, "node", scope, path,
            [&](int position, int) { members.Add(scope.meshIndex, -1, position); });
   }
@@ -504,10 +525,31 @@ private:
   void AddElements(const LabelList& list, const LabelScope& scope, const std::string& path,
                    SubsetCollector& members) {
     const PartLabels& labels = *scope.labels;
+    const int start = list.isRange ? labels.elements.SteppedStart(list.range) : -1;
+    if (start >= 0)
+      return AddSteppedElements(start, list.range.Step(), list.Size(), scope, members);
     Lookup(list, labels.elements, "element", scope, path, [&](int position, int) {
       const int k = labels.ClassOf(position);
       members.Add(scope.meshIndex, k, position - labels.classStarts[static_cast<std::size_t>(k)]);
     });
+  }
+
+  // The elements at positions start, start + step, ... (`count` of them),
+  // class by class.
+  void AddSteppedElements(int start, int step, int count, const LabelScope& scope,
+                          SubsetCollector& members) {
+    const std::vector<int>& starts = scope.labels->classStarts;
+    const std::int64_t end = start + static_cast<std::int64_t>(count - 1) * step + 1;
+    for (std::size_t k = 0; k < starts.size(); ++k) {
+      const std::int64_t classEnd = k + 1 < starts.size() ? starts[k + 1] : end;
+      const std::int64_t from = std::max<std::int64_t>(start, starts[k]);
+      const std::int64_t first = start + (from - start + step - 1) / step * step;
+      const std::int64_t last = std::min(classEnd, end) - 1;
+      if (first <= last)
+        members.AddStepped(scope.meshIndex, static_cast<int>(k),
+                           static_cast<int>(first - starts[k]), step,
+                           static_cast<int>((last - first) / step + 1));
+    }
   }
 
   // The elements of one face label; a face that does not fit an element's
