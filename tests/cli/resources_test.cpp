@@ -167,3 +167,50 @@ TEST_F(Resources, SetsKeepTheirDeckForm) {
 }
 
 } // namespace
+
+namespace {
+
+TEST_F(Resources, ARangeWritesTheDeckOfItsLabels) {
+  // Two element classes, so that ranges cross from one to the other: a deck
+  // from ranges equals the deck from the same labels spelt out.
+  const auto model = [](const std::string& nodes, const std::string& elements,
+                        const std::string& instanceNodes) {
+    return R"({"format": "keydeck-model", "version": 1, "models": {"Default Model": {
+      "parts": {"P": {
+        "nodes": {"labels": [1, 2, 3, 4, 5, 6, 7, 8, 9, 10],
+                  "coordinates": [[0,0,0],[1,0,0],[2,0,0],[3,0,0],[4,0,0],
+                                  [5,0,0],[6,0,0],[7,0,0],[8,0,0],[9,0,0]]},
+        "elements": [{"type": "T3D2", "labels": [1, 2, 3, 4, 5],
+                      "connectivity": [[1,2],[2,3],[3,4],[4,5],[5,6]]},
+                     {"type": "B31", "labels": [6, 7, 8, 9],
+                      "connectivity": [[6,7],[7,8],[8,9],[9,10]]}],
+        "sets": {"N": {"nodes": )" +
+           nodes + R"(}, "E": {"elements": )" + elements + R"(}}}},
+      "assembly": {"instances": {"P-1": {"part": "P"}},
+        "sets": {"A": {"nodes": [{"instance": "P-1", "labels": )" +
+           instanceNodes + R"(}]},
+                 "B": {"elements": [{"instance": "P-1", "labels": )" +
+           elements + R"(}]}}}}}})";
+  };
+  const std::vector<std::vector<std::string>> cases = {
+      {R"({"generate": [2, 10, 4]})", "[2, 6, 10]", R"({"generate": [1, 10, 1]})",
+       "[1, 2, 3, 4, 5, 6, 7, 8, 9, 10]", R"({"generate": [2, 9, 3]})", "[2, 5, 8]"},
+      {R"({"generate": [3, 8, 1]})", "[3, 4, 5, 6, 7, 8]", R"({"generate": [6, 9, 1]})",
+       "[6, 7, 8, 9]", R"({"generate": [1, 9, 4]})", "[1, 5, 9]"},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c[0] + " " + c[2] + " " + c[4]);
+    const fs::path ranges = folder_ / "ranges.json";
+    const fs::path lists = folder_ / "lists.json";
+    std::ofstream(ranges) << model(c[0], c[4], c[2]);
+    std::ofstream(lists) << model(c[1], c[5], c[3]);
+    const Outcome fromRanges = RunKeydeck({"write", ranges.string(), "--stdout", "-q"}, folder_);
+    const Outcome fromLists = RunKeydeck({"write", lists.string(), "--stdout", "-q"}, folder_);
+    ASSERT_EQ(fromRanges.status, 0) << fromRanges.err;
+    ASSERT_EQ(fromLists.status, 0) << fromLists.err;
+    EXPECT_EQ(fromRanges.out, fromLists.out);
+    EXPECT_NE(fromRanges.out.find("*Elset, elset=E"), std::string::npos) << fromRanges.out;
+  }
+}
+
+} // namespace
