@@ -9,9 +9,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <chrono>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -19,6 +21,23 @@
 #include <thread>
 #include <unistd.h>
 #include <vector>
+
+// The library entry removes an older deck and then makes the file. To win the
+// race between the two every time, this test program's `remove` (which the
+// writer calls) can plant a symlink right after it removed the file.
+namespace {
+const char* plantedTarget = nullptr;
+} // namespace
+
+extern "C" int remove(const char* path) noexcept {
+  int result = unlink(path);
+  if (result != 0 && errno == EISDIR)
+    result = rmdir(path);
+  if (plantedTarget != nullptr && symlink(plantedTarget, path) != 0)
+    std::abort();
+  plantedTarget = nullptr;
+  return result;
+}
 
 namespace {
 
@@ -137,19 +156,28 @@ TEST_F(SafeWrite, TheTemporaryDeckIsNeverReopenedByName) {
 }
 
 TEST_F(SafeWrite, TheLibraryEntryDoesNotFollowASymlink) {
-  // The entry removes an older deck and makes the file anew; a symlink that
-  // appears in between makes it fail instead of writing through the link.
   std::vector<std::string> warnings;
   const odb_Odb odb = keydeck::LoadModelText(SmallModel, warnings);
   const fs::path target = folder_ / "target.txt";
   std::ofstream(target) << "someone else's file\n";
   const fs::path here = fs::current_path();
   fs::current_path(Out());
+
+  // A symlink at the deck's name is removed, not followed.
   fs::create_symlink(target, "job.inp");
-  oif_Writer(odb).WriteInputFile("job"); // the symlink is removed, not followed
+  oif_Writer(odb).WriteInputFile("job");
   EXPECT_EQ(ReadFile(target.string()), "someone else's file\n");
   EXPECT_TRUE(fs::is_regular_file(fs::symlink_status("job.inp")));
   EXPECT_NE(ReadFile("job.inp").find("*Part, name=P"), std::string::npos);
+
+  // One that appears between the removal and the opening makes the writer
+  // give up (the entry reports no such failure) rather than write through it.
+  const std::string targetName = target.string();
+  plantedTarget = targetName.c_str();
+  oif_Writer(odb).WriteInputFile("job");
+  EXPECT_EQ(plantedTarget, nullptr); // the writer did call remove
+  EXPECT_EQ(ReadFile(target.string()), "someone else's file\n");
+  EXPECT_TRUE(fs::is_symlink("job.inp"));
   fs::current_path(here);
 }
 
