@@ -5,7 +5,179 @@
 #include "model/records.h"
 
 #include <array>
+#include <cstddef>
+#include <initializer_list>
+#include <iterator>
 #include <optional>
+#include <string>
+#include <vector>
+
+namespace keydeck {
+
+/// A list of ints that costs no memory per value while the values step
+/// evenly (first, first + step, ...): a `{"generate": ...}` range over labels
+/// numbered in order stays three numbers from the file to the deck. Other
+/// lists are held as a `cow_List`. Read-only; `IndexListBuilder` makes one.
+class IndexList {
+public:
+  IndexList() = default;
+  IndexList(const cow_List<int>& values) : list_(values), count_(values.Size()), stepped_(false) {}
+  IndexList(std::initializer_list<int> values) : IndexList(cow_List<int>(values)) {}
+  /// `count` values from `first` on, `step` apart.
+  static IndexList Stepped(int first, int step, int count) {
+    IndexList list;
+    list.first_ = first;
+    list.step_ = step;
+    list.count_ = count;
+    return list;
+  }
+
+  int Size() const { return count_; }
+  bool Empty() const { return count_ == 0; }
+  /// Whether the values step evenly; then `First` and `Step` describe them.
+  bool IsStepped() const { return stepped_; }
+  int First() const { return first_; }
+  int Step() const { return step_; }
+
+  int UncheckedConstGet(int i) const {
+    return stepped_ ? static_cast<int>(first_ + static_cast<long long>(i) * step_)
+                    : list_.UncheckedConstGet(i);
+  }
+  int ConstGet(int i) const {
+    if (!stepped_)
+      return list_.ConstGet(i);
+    if (i < 0 || i >= count_)
+      Raise("list index " + std::to_string(i) + " out of range [0, " + std::to_string(count_) +
+            ")");
+    return UncheckedConstGet(i);
+  }
+  int operator[](int i) const { return ConstGet(i); }
+  /// The values as a list (allocated here for a stepped list).
+  cow_List<int> List() const;
+  /// True when the two hold their values in one payload, or are the same
+  /// stepped list: a copy, not a rebuilt list.
+  bool SharesWith(const IndexList& other) const {
+    return stepped_ ? other.stepped_ && first_ == other.first_ && step_ == other.step_ &&
+                          count_ == other.count_
+                    : !other.stepped_ && list_.SharesWith(other.list_);
+  }
+
+  class Iterator {
+  public:
+    using iterator_category = std::forward_iterator_tag;
+    using value_type = int;
+    using difference_type = std::ptrdiff_t;
+    using pointer = const int*;
+    using reference = int;
+
+    Iterator() = default;
+    Iterator(const IndexList* list, int i) : list_(list), i_(i) {}
+    int operator*() const { return list_->UncheckedConstGet(i_); }
+    Iterator& operator++() {
+      ++i_;
+      return *this;
+    }
+    Iterator operator++(int) {
+      Iterator before = *this;
+      ++i_;
+      return before;
+    }
+    friend bool operator==(const Iterator& a, const Iterator& b) { return a.i_ == b.i_; }
+
+  private:
+    const IndexList* list_ = nullptr;
+    int i_ = 0;
+  };
+  Iterator begin() const { return {this, 0}; }
+  Iterator end() const { return {this, count_}; }
+
+private:
+  cow_List<int> list_; ///< when not stepped
+  int first_ = 0;
+  int step_ = 0;
+  int count_ = 0;
+  bool stepped_ = true;
+};
+
+/// Makes an `IndexList` value by value: it keeps first, step and count as
+/// long as the values step evenly, and spells them out from the first value
+/// that does not.
+class IndexListBuilder {
+public:
+  void Append(int value) {
+    if (stepped_ && Continues(value)) [[likely]] {
+      ++count_;
+      return;
+    }
+    if (stepped_)
+      SpellOut();
+    values_.push_back(value);
+    ++count_;
+  }
+  /// Appends `count` values from `first` on, `step` apart, at once where it can.
+  void AppendStepped(int first, int step, int count) {
+    if (count_ == 0 && stepped_) {
+      first_ = first;
+      step_ = step;
+      count_ = count;
+      return;
+    }
+    for (int i = 0; i < count; ++i)
+      Append(static_cast<int>(first + static_cast<long long>(i) * step));
+  }
+  int Size() const { return count_; }
+  /// The list; the builder is empty afterwards.
+  IndexList Take();
+
+private:
+  bool Continues(int value) {
+    if (count_ == 0)
+      first_ = value;
+    if (count_ == 1) {
+      const long long step = static_cast<long long>(value) - first_;
+      if (step != static_cast<int>(step))
+        return false;
+      step_ = static_cast<int>(step);
+    }
+    return count_ < 2 || first_ + static_cast<long long>(count_) * step_ == value;
+  }
+  void SpellOut();
+
+  std::vector<int> values_;
+  int first_ = 0;
+  int step_ = 0;
+  int count_ = 0;
+  bool stepped_ = true;
+};
+
+inline cow_List<int> IndexList::List() const {
+  if (!stepped_)
+    return list_;
+  cow_List<int> values = cow_List<int>::WithCapacity(count_);
+  for (const int value : *this)
+    values.Append(value);
+  return values;
+}
+
+inline void IndexListBuilder::SpellOut() {
+  values_.reserve(static_cast<std::size_t>(count_) + 1);
+  for (int i = 0; i < count_; ++i)
+    values_.push_back(static_cast<int>(first_ + static_cast<long long>(i) * step_));
+  stepped_ = false;
+}
+
+inline IndexList IndexListBuilder::Take() {
+  IndexList list = IndexList::Stepped(first_, step_, count_);
+  if (!stepped_) {
+    cow_List<int> values;
+    values.SetFromArray(values_.data(), static_cast<int>(values_.size()));
+    list = IndexList(values);
+  }
+  *this = IndexListBuilder();
+  return list;
+}
+
+} // namespace keydeck
 
 /// What a set selects.
 enum res_SetTypeEnm : int {
@@ -17,19 +189,20 @@ enum res_SetTypeEnm : int {
 /// The members of a set in one element class of one mesh (or, for a node
 /// set, in one mesh): indices into the mesh's node or element lists, and for
 /// a facet set the facet id of each entry (0-based face number; for a shell
-/// 0 is the positive side, 1 the negative side).
+/// 0 is the positive side, 1 the negative side). Both lists stay small while
+/// they step evenly, as those of a range usually do.
 class rgnC_SubsetData {
 public:
   int MeshIndex() const { return meshIndex; }
   int ClassIndex() const { return classIndex; }
   int Size() const { return indices.Size(); }
-  void Subset(cow_List<int>& out) const { out = indices; }
-  void FacetIds(cow_List<int>& out) const { out = facetIds; }
+  void Subset(cow_List<int>& out) const { out = indices.List(); }
+  void FacetIds(cow_List<int>& out) const { out = facetIds.List(); }
 
   int meshIndex = 0;
   int classIndex = -1; ///< -1 for a node subset
-  cow_List<int> indices;
-  cow_List<int> facetIds;
+  keydeck::IndexList indices;
+  keydeck::IndexList facetIds;
 };
 
 /// A set as the database stores it: its name, what it selects, and its
@@ -112,6 +285,13 @@ public:
     for (long long label = range.First(); label <= range.Last(); label += range.Step())
       if (!use(static_cast<int>(label)))
         return;
+  }
+
+  /// The number of labels, repeats included.
+  int Size() const {
+    return isRange ? static_cast<int>(
+                         (static_cast<long long>(range.Last()) - range.First()) / range.Step() + 1)
+                   : labels.Size();
   }
 
   cow_List<int> labels; ///< when the file gives a list

@@ -6,7 +6,9 @@
 
 #include <chrono>
 #include <cstdio>
+#include <fcntl.h>
 #include <initializer_list>
+#include <unistd.h> // close
 
 namespace {
 
@@ -14,6 +16,19 @@ using Clock = std::chrono::steady_clock;
 
 double SecondsSince(Clock::time_point start) {
   return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+/// Removes `name`, then creates it anew for writing; null on failure. The
+/// new file is never one that appeared at the name after the removal.
+std::FILE* OpenNewFile(const char* name) {
+  std::remove(name);
+  const int descriptor = open(name, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
+  if (descriptor < 0)
+    return nullptr;
+  std::FILE* const file = fdopen(descriptor, "w");
+  if (file == nullptr)
+    close(descriptor);
+  return file;
 }
 
 } // namespace
@@ -24,12 +39,15 @@ oif_Builder::oif_Builder(oif_ModelInfo& info)
       model_(&keydeck::FacadeOf(info.Model())) {}
 
 bool oif_Builder::WriteInputFile(const cow_String& fileName, keydeck::DeckPhaseTimes* times) {
-  std::remove(fileName.CStr());
-  std::FILE* const file = std::fopen(fileName.CStr(), "w");
+  std::FILE* const file = OpenNewFile(fileName.CStr());
   if (file == nullptr)
     return false;
-  qio_ofstreamDeck os;
-  os.attach(file, /*owns=*/true);
+  qio_ofstreamDeck os(file, /*owns=*/true);
+  WriteInputFile(os, times);
+  return true;
+}
+
+void oif_Builder::WriteInputFile(qio_ostream& os, keydeck::DeckPhaseTimes* times) {
   utl_Stream s(os, 131, 6, 6);
 
   const Clock::time_point buildStart = Clock::now();
@@ -40,7 +58,6 @@ bool oif_Builder::WriteInputFile(const cow_String& fileName, keydeck::DeckPhaseT
   if (times != nullptr)
     *times = {std::chrono::duration<double>(writeStart - buildStart).count(),
               SecondsSince(writeStart)};
-  return true;
 }
 
 void oif_Builder::BuildAll() {

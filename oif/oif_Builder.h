@@ -14,6 +14,7 @@
 
 class oif_Model;
 class oif_ModelInfo;
+class qio_ostream;
 class utl_Stream;
 
 namespace keydeck {
@@ -35,11 +36,16 @@ public:
   oif_Builder(const oif_Builder&) = delete;
   oif_Builder& operator=(const oif_Builder&) = delete;
 
-  /// Removes any older file of that name, then writes the deck to it. False
-  /// when the file cannot be opened (nothing is built then); a failure while
-  /// building or writing raises, and leaves what was written so far.
+  /// Removes any older file of that name, then writes the deck to it. The
+  /// file is made new: when something else takes the name in between (a
+  /// symlink, say), nothing is followed or overwritten and the call fails.
+  /// False when the file cannot be opened (nothing is built then); a failure
+  /// while building or writing raises, and leaves what was written so far.
   /// `times`, when given, receives the time of each phase.
   bool WriteInputFile(const cow_String& fileName, keydeck::DeckPhaseTimes* times = nullptr);
+  /// Builds the deck and writes it to `os`, then closes `os`; a failure
+  /// raises.
+  void WriteInputFile(qio_ostream& os, keydeck::DeckPhaseTimes* times = nullptr);
 
 private:
   using BuilderList = cow_List<cow_ArrayCOW<qkw_BuilderComponent>>;

@@ -9,11 +9,11 @@
 #include <utility>
 
 oif_Elset::oif_Elset(const rgnC_SetData& setData, const ddb_Assembly& assembly)
-    : setName_(setData.Name()), labels_(oif_Set(setData, assembly).Labels()),
+    : setName_(setData.Name()), labels_(oif_Set(setData, assembly).Members()),
       internal_(setData.Internal()) {}
 
 oif_Elset::oif_Elset(const rgnC_SetData& setData, const ddb_PartInstance& instance)
-    : setName_(setData.Name()), labels_(oif_Set(setData, instance).Labels()),
+    : setName_(setData.Name()), labels_(oif_Set(setData, instance).Members()),
       internal_(setData.Internal()) {}
 
 oif_Elset::oif_Elset(const rgnC_SetData& setData, const ddb_PartInstance& instance,

@@ -2,11 +2,11 @@
 
 #include "base/cow_List.h"
 #include "base/cow_String.h"
+#include "model/regions.h"
 #include "qkw/qkw_Keyword.h"
 
 class ddb_Assembly;
 class ddb_PartInstance;
-class rgnC_SetData;
 
 /// "*Elset": an element set by its labels (sorted, in generate form where
 /// it can be), or a set of sets, which is always internal. An empty set
@@ -35,6 +35,6 @@ private:
   cow_String setName_;
   cow_List<cow_String> memberSets_;
   cow_String instanceName_;
-  cow_List<int> labels_;
+  keydeck::IndexList labels_;
   bool internal_ = false;
 };

@@ -7,11 +7,11 @@
 #include "qkw/qkw_QuorvexName.h"
 
 oif_Nset::oif_Nset(const rgnC_SetData& setData, const ddb_Assembly& assembly)
-    : setName_(setData.Name()), labels_(oif_Set(setData, assembly).Labels()),
+    : setName_(setData.Name()), labels_(oif_Set(setData, assembly).Members()),
       internal_(setData.Internal()) {}
 
 oif_Nset::oif_Nset(const rgnC_SetData& setData, const ddb_PartInstance& instance)
-    : setName_(setData.Name()), labels_(oif_Set(setData, instance).Labels()),
+    : setName_(setData.Name()), labels_(oif_Set(setData, instance).Members()),
       internal_(setData.Internal()) {}
 
 oif_Nset::oif_Nset(const rgnC_SetData& setData, const ddb_PartInstance& instance,

@@ -2,11 +2,11 @@
 
 #include "base/cow_List.h"
 #include "base/cow_String.h"
+#include "model/regions.h"
 #include "qkw/qkw_Keyword.h"
 
 class ddb_Assembly;
 class ddb_PartInstance;
-class rgnC_SetData;
 
 /// "*Nset": a node set by its labels (sorted, in generate form where it
 /// can be), or a set of sets. An empty set writes no card.
@@ -32,7 +32,7 @@ private:
 
   cow_String setName_;
   cow_String instanceName_;
-  cow_List<int> labels_;
+  keydeck::IndexList labels_;
   cow_List<cow_String> memberSets_;
   bool internal_ = false;
 };

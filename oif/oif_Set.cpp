@@ -9,6 +9,48 @@
 #include <algorithm>
 #include <vector>
 
+namespace {
+
+/// Whether the labels at stepped indices step evenly too, as they do over
+/// labels numbered in order.
+bool LabelsStep(const keydeck::IndexList& indices, const cow_List<int>& labels) {
+  const int count = indices.Size();
+  const long long first = labels.UncheckedConstGet(indices.First());
+  const long long step =
+      count < 2 ? 0 : labels.UncheckedConstGet(indices.UncheckedConstGet(1)) - first;
+  if (step != static_cast<int>(step))
+    return false;
+  for (int i = 2; i < count; ++i)
+    if (labels.UncheckedConstGet(indices.UncheckedConstGet(i)) != first + i * step)
+      return false;
+  return true;
+}
+
+/// Whether every index lies inside a list of `size`.
+bool AllInside(const keydeck::IndexList& indices, int size) {
+  if (!indices.IsStepped())
+    return std::all_of(indices.begin(), indices.end(),
+                       [size](int index) { return index >= 0 && index < size; });
+  const int last = indices.UncheckedConstGet(std::max(indices.Size() - 1, 0));
+  return indices.Empty() ||
+         (std::min(indices.First(), last) >= 0 && std::max(indices.First(), last) < size);
+}
+
+/// Appends the labels at `indices`; a range of them stays a range.
+void AppendLabels(keydeck::IndexListBuilder& out, const keydeck::IndexList& indices,
+                  const cow_List<int>& labels) {
+  if (indices.IsStepped() && indices.Size() > 2 && AllInside(indices, labels.Size()) &&
+      LabelsStep(indices, labels)) {
+    const int first = labels.UncheckedConstGet(indices.First());
+    return out.AppendStepped(first, labels.UncheckedConstGet(indices.UncheckedConstGet(1)) - first,
+                             indices.Size());
+  }
+  for (const int index : indices)
+    out.Append(labels.ConstGet(index));
+}
+
+} // namespace
+
 oif_Set::oif_Set(const rgnC_SetData& setData, const ddb_Assembly& assembly) {
   if (assembly.hasMesh())
     ComputeData(setData, assembly.mesh());
@@ -31,35 +73,37 @@ void oif_Set::ComputeData(const rgnC_SetData& setData, const ddb_Mesh& mesh) {
 
 void oif_Set::AddNodes(const rgnC_SetData& setData, const ddb_Mesh& mesh) {
   const cow_List<int>& nodeLabels = mesh.nodeData().UserNodeLabels();
-  std::vector<int> labels;
+  keydeck::IndexListBuilder labels;
   for (int i = 0; i < setData.NumSubsets(); ++i) {
     const rgnC_SubsetData& subset = setData.SubSet(i);
     if (subset.MeshIndex() != mesh.meshIndex())
       continue;
-    labels.reserve(labels.size() + static_cast<std::size_t>(subset.Size()));
+    if (AllInside(subset.indices, nodeLabels.Size())) {
+      AppendLabels(labels, subset.indices, nodeLabels);
+      continue;
+    }
     for (const int index : subset.indices)
       if (index >= 0 && index < nodeLabels.Size()) // an index outside the mesh is dropped
-        labels.push_back(nodeLabels.UncheckedConstGet(index));
+        labels.Append(nodeLabels.UncheckedConstGet(index));
   }
-  labels_.SetFromArray(labels.data(), static_cast<int>(labels.size()));
+  labels_ = labels.Take();
 }
 
 void oif_Set::AddElements(const rgnC_SetData& setData, const ddb_Mesh& mesh) {
-  std::vector<int> labels;
+  keydeck::IndexListBuilder labels;
   for (int i = 0; i < setData.NumSubsets(); ++i) {
     const rgnC_SubsetData& subset = setData.SubSet(i);
     if (subset.MeshIndex() != mesh.meshIndex() || subset.ClassIndex() < 0)
       continue;
     const cow_List<int>& elementLabels =
         mesh.elementData().elementClass(subset.ClassIndex()).userElementLabelsAsFlatArray();
-    labels.reserve(labels.size() + static_cast<std::size_t>(subset.Size()));
-    for (const int index : subset.indices)
-      labels.push_back(elementLabels.ConstGet(index));
+    AppendLabels(labels, subset.indices, elementLabels);
   }
-  labels_.SetFromArray(labels.data(), static_cast<int>(labels.size()));
+  labels_ = labels.Take();
 }
 
 void oif_Set::AddFacets(const rgnC_SetData& setData, const ddb_Mesh& mesh) {
+  keydeck::IndexListBuilder labels;
   for (int i = 0; i < setData.NumSubsets(); ++i) {
     const rgnC_SubsetData& subset = setData.SubSet(i);
     if (subset.MeshIndex() != mesh.meshIndex() || subset.ClassIndex() < 0 || subset.indices.Empty())
@@ -75,7 +119,7 @@ void oif_Set::AddFacets(const rgnC_SetData& setData, const ddb_Mesh& mesh) {
             : "";
     for (int j = 0; j < subset.indices.Size(); ++j) {
       const int facet = subset.facetIds.ConstGet(j);
-      labels_.Append(elementLabels.ConstGet(subset.indices.UncheckedConstGet(j)));
+      labels.Append(elementLabels.ConstGet(subset.indices.UncheckedConstGet(j)));
       if (!bySide) {
         faceNames_.Append(prefix + cow_String(facet + 1));
         continue;
@@ -89,32 +133,35 @@ void oif_Set::AddFacets(const rgnC_SetData& setData, const ddb_Mesh& mesh) {
         faceNames_.Append(cow_String());
     }
   }
+  labels_ = labels.Take();
 }
 
 void oif_Set::SortUnique() {
+  if (labels_.IsStepped()) { // sorted already, or backwards, or one label repeated
+    const int step = labels_.Step();
+    const int count = step == 0 ? std::min(labels_.Size(), 1) : labels_.Size();
+    const int lowest = step < 0 ? labels_.UncheckedConstGet(count - 1) : labels_.First();
+    labels_ = keydeck::IndexList::Stepped(lowest, step < 0 ? -step : step, count);
+    return;
+  }
   std::vector<int> labels(labels_.begin(), labels_.end());
   std::sort(labels.begin(), labels.end());
   labels.erase(std::unique(labels.begin(), labels.end()), labels.end());
-  labels_.SetFromArray(labels.data(), static_cast<int>(labels.size()));
+  keydeck::IndexListBuilder sorted;
+  for (const int label : labels)
+    sorted.Append(label);
+  labels_ = sorted.Take();
 }
 
 bool oif_Set::CanGenerate() {
-  generate_ = true;
   SortUnique();
-  if (labels_.Size() < 3)
-    return generate_ = false;
-  first_ = labels_.UncheckedConstGet(0);
-  last_ = labels_.UncheckedConstGet(labels_.Size() - 1);
-  step_ = labels_.UncheckedConstGet(1) - first_;
-  for (int i = 2; i < labels_.Size(); ++i)
-    if (labels_.UncheckedConstGet(i) - labels_.UncheckedConstGet(i - 1) != step_)
-      return generate_ = false;
-  return generate_;
+  return generate_ = labels_.IsStepped() && labels_.Size() >= 3;
 }
 
 void oif_Set::WriteData(utl_Stream& s) const {
   if (generate_) {
-    s << first_ << ", " << last_ << ", " << step_ << endl;
+    s << labels_.First() << ", " << labels_.UncheckedConstGet(labels_.Size() - 1) << ", "
+      << labels_.Step() << endl;
     return;
   }
   const int count = labels_.Size();

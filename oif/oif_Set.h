@@ -2,20 +2,21 @@
 
 #include "base/cow_List.h"
 #include "base/cow_String.h"
+#include "model/regions.h"
 
 class ddb_Assembly;
 class ddb_Mesh;
 class ddb_PartInstance;
-class rgnC_SetData;
 class utl_Stream;
 
 /// The data of a set card: a set's members turned into user labels (and,
 /// for a facet set, face names), the test for the generate form, and the
-/// data lines.
+/// data lines. Labels that step evenly, as those of a range usually do, are
+/// held as a range from the model to the deck.
 class oif_Set {
 public:
   /// The labels as given; no face names.
-  explicit oif_Set(const cow_List<int>& labels) : labels_(labels) {}
+  explicit oif_Set(const keydeck::IndexList& labels) : labels_(labels) {}
   /// The members of the set in the assembly's own mesh; none without one.
   oif_Set(const rgnC_SetData& setData, const ddb_Assembly& assembly);
   /// The members of the set in the instance's mesh.
@@ -27,7 +28,10 @@ public:
   bool CanGenerate();
   /// The generate line, or the labels sixteen to a line.
   void WriteData(utl_Stream& s) const;
-  const cow_List<int>& Labels() const { return labels_; }
+  /// The labels as the cards keep them.
+  const keydeck::IndexList& Members() const { return labels_; }
+  /// The labels spelt out.
+  cow_List<int> Labels() const { return labels_.List(); }
   /// For a facet set, the face name of each label.
   const cow_List<cow_String> FaceList() const { return faceNames_; }
   /// The data lines of a set made of other sets: one member's name a line,
@@ -41,10 +45,7 @@ private:
   void AddFacets(const rgnC_SetData& setData, const ddb_Mesh& mesh);
   void SortUnique();
 
-  cow_List<int> labels_;
+  keydeck::IndexList labels_;
   cow_List<cow_String> faceNames_;
   bool generate_ = false;
-  int first_ = 0;
-  int last_ = 0;
-  int step_ = 0;
 };

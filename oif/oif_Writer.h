@@ -9,8 +9,9 @@ public:
   explicit oif_Writer(const odb_Odb& odb) : odb_(odb) {}
 
   /// Writes `jobName` + ".inp", relative to the current directory. An older
-  /// file of that name is removed first; a file that cannot be opened is not
-  /// reported. Failures of the model raise.
+  /// file of that name is removed first and the deck goes to a file made new
+  /// (a symlink planted at the name is neither followed nor overwritten); a
+  /// file that cannot be opened is not reported. Failures of the model raise.
   void WriteInputFile(const char* jobName);
 
 private:

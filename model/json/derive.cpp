@@ -18,15 +18,6 @@ namespace keydeck {
 
 namespace {
 
-// An element type stands bare on its "*Element" line, so it may hold only
-// what a bare word of the deck can.
-bool IsElementTypeLabel(std::string_view type) {
-  return !type.empty() && std::all_of(type.begin(), type.end(), [](char c) {
-    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '_' ||
-           c == '-';
-  });
-}
-
 // Finds the position of a label among the labels of a mesh. Labels that lie
 // close together (the usual numbering 1..n) are found through a table over
 // their range; scattered ones through an open-addressing hash table. Neither
@@ -37,6 +28,16 @@ public:
   void Reserve(int count, int lowest, int highest);
   // Enters `label` at `position`; returns the position that already has it, or -1.
   int Insert(int label, int position);
+  // The position of the first label of `range` when every label of it is
+  // there and positions step as labels do (labels numbered in order from the
+  // lowest, as usual); otherwise -1.
+  int SteppedStart(const LabelRange& range) const {
+    const std::int64_t steps =
+        (static_cast<std::int64_t>(range.Last()) - range.First()) / range.Step();
+    const std::int64_t last = range.First() + steps * range.Step();
+    const bool inside = range.First() >= lowest_ && last - lowest_ < inserted_;
+    return ordered_ && inside ? static_cast<int>(range.First() - lowest_) : -1;
+  }
   // The position of `label`, or -1.
   int Find(int label) const {
     if (dense_) {
@@ -58,6 +59,8 @@ private:
   }
 
   bool dense_ = true;
+  bool ordered_ = true; // dense, and each label at its offset from the lowest
+  std::int64_t inserted_ = 0;
   std::int64_t lowest_ = 0;
   std::vector<int> slots_;  // positions; -1 for none
   std::vector<int> labels_; // hash table only: the label in each slot
@@ -83,6 +86,8 @@ void LabelIndex::Reserve(int count, int lowest, int highest) {
 }
 
 int LabelIndex::Insert(int label, int position) {
+  ordered_ = ordered_ && dense_ && static_cast<std::int64_t>(label) - lowest_ == position;
+  ++inserted_;
   if (dense_) {
     int& slot = slots_[static_cast<std::size_t>(static_cast<std::int64_t>(label) - lowest_)];
     if (slot >= 0)
@@ -229,10 +234,6 @@ private:
     if (elementClass.labels.Size() != rows)
       Error("elements/" + std::to_string(k), Count(elementClass.labels.Size(), "element label") +
                                                  " but " + Count(rows, "connectivity row"));
-    if (!IsElementTypeLabel(elementClass.type.View()))
-      Error("elements/" + std::to_string(k) + "/type",
-            "an element type is letters, digits, \"_\" and \"-\", found \"" +
-                std::string(elementClass.type.View()) + "\"");
     const shp_Shape& shape = labels_.shapes[static_cast<std::size_t>(k)];
     if (shape.nodes > 0 && rows > 0 && (cols < shape.fewestNodes || cols > shape.mostNodes))
       Error("elements/" + std::to_string(k) + "/connectivity",
@@ -275,12 +276,16 @@ public:
   // still has it.
   void Open(int meshIndex, int classIndex) { Find(meshIndex, classIndex); }
   void Add(int meshIndex, int classIndex, int index) {
-    Find(meshIndex, classIndex).indices.push_back(index);
+    Find(meshIndex, classIndex).indices.Append(index);
+  }
+  // Adds `count` indices from `first` on, `step` apart.
+  void AddStepped(int meshIndex, int classIndex, int first, int step, int count) {
+    Find(meshIndex, classIndex).indices.AppendStepped(first, step, count);
   }
   void Add(int meshIndex, int classIndex, int index, int facetId) {
     Pending& pending = Find(meshIndex, classIndex);
-    pending.indices.push_back(index);
-    pending.facetIds.push_back(facetId);
+    pending.indices.Append(index);
+    pending.facetIds.Append(facetId);
   }
   // The subsets in the order in which their pairs first appeared or, with
   // `byClass`, in class order.
@@ -290,8 +295,8 @@ private:
   struct Pending {
     int meshIndex;
     int classIndex;
-    std::vector<int> indices;
-    std::vector<int> facetIds;
+    IndexListBuilder indices; // a range stays three numbers
+    IndexListBuilder facetIds;
   };
 
   Pending& Find(int meshIndex, int classIndex) {
@@ -312,12 +317,6 @@ private:
   std::size_t last_ = 0;
 };
 
-cow_List<int> ListOf(const std::vector<int>& values) {
-  cow_List<int> list;
-  list.SetFromArray(values.data(), static_cast<int>(values.size()));
-  return list;
-}
-
 cow_List<rgnC_SubsetData> SubsetCollector::Take(bool byClass) {
   if (byClass)
     std::stable_sort(pending_.begin(), pending_.end(), [](const Pending& a, const Pending& b) {
@@ -325,13 +324,12 @@ cow_List<rgnC_SubsetData> SubsetCollector::Take(bool byClass) {
     });
   cow_List<rgnC_SubsetData> subsets =
       cow_List<rgnC_SubsetData>::WithCapacity(static_cast<int>(pending_.size()));
-  for (const Pending& pending : pending_) {
+  for (Pending& pending : pending_) {
     rgnC_SubsetData subset;
     subset.meshIndex = pending.meshIndex;
     subset.classIndex = pending.classIndex;
-    subset.indices = ListOf(pending.indices);
-    if (!pending.facetIds.empty())
-      subset.facetIds = ListOf(pending.facetIds);
+    subset.indices = pending.indices.Take();
+    subset.facetIds = pending.facetIds.Take();
     subsets.Append(std::move(subset));
   }
   pending_.clear();
@@ -505,6 +503,9 @@ private:
   void AddNodes(const LabelList& list, const LabelScope& scope, const std::string& path,
                 SubsetCollector& members) {
     members.Open(scope.meshIndex, -1);
+    const int start = list.isRange ? scope.labels->nodes.SteppedStart(list.range) : -1;
+    if (start >= 0)
+      return members.AddStepped(scope.meshIndex, -1, start, list.range.Step(), list.Size());
     Lookup(list, scope.labels->nodes, "node", scope, path,
            [&](int position, int) { members.Add(scope.meshIndex, -1, position); });
   }
@@ -512,10 +513,31 @@ private:
   void AddElements(const LabelList& list, const LabelScope& scope, const std::string& path,
                    SubsetCollector& members) {
     const PartLabels& labels = *scope.labels;
+    const int start = list.isRange ? labels.elements.SteppedStart(list.range) : -1;
+    if (start >= 0)
+      return AddSteppedElements(start, list.range.Step(), list.Size(), scope, members);
     Lookup(list, labels.elements, "element", scope, path, [&](int position, int) {
       const int k = labels.ClassOf(position);
       members.Add(scope.meshIndex, k, position - labels.classStarts[static_cast<std::size_t>(k)]);
     });
+  }
+
+  // The elements at positions start, start + step, ... (`count` of them),
+  // class by class.
+  void AddSteppedElements(int start, int step, int count, const LabelScope& scope,
+                          SubsetCollector& members) {
+    const std::vector<int>& starts = scope.labels->classStarts;
+    const std::int64_t end = start + static_cast<std::int64_t>(count - 1) * step + 1;
+    for (std::size_t k = 0; k < starts.size(); ++k) {
+      const std::int64_t classEnd = k + 1 < starts.size() ? starts[k + 1] : end;
+      const std::int64_t from = std::max<std::int64_t>(start, starts[k]);
+      const std::int64_t first = start + (from - start + step - 1) / step * step;
+      const std::int64_t last = std::min(classEnd, end) - 1;
+      if (first <= last)
+        members.AddStepped(scope.meshIndex, static_cast<int>(k),
+                           static_cast<int>(first - starts[k]), step,
+                           static_cast<int>((last - first) / step + 1));
+    }
   }
 
   // The elements of one face label; a face that does not fit an element's

@@ -25,7 +25,9 @@ namespace keydeck {
 ///   an element set one per class touched, in class order; a face-based
 ///   surface one per class in order of first appearance, with its facet ids.
 ///   Every label must be one of the part, every face label fit its element's
-///   type. The labels are found through the same index as the connectivity.
+///   type. The labels are found through the same index as the connectivity;
+///   a range inside labels numbered in order is taken whole, and its subsets
+///   hold it as first, step and count.
 /// - Each instance: its name from its key; its mesh, the part's (shared, not
 ///   copied) under mesh index 1, 2, ... in ascending order of the instance
 ///   names, with the part's sets stamped with that index; its part must

@@ -1,5 +1,6 @@
 // The keydeck command as a user meets it: exit status, messages, and what it
 // leaves in the output folder.
+#include "tests/cli/run_keydeck.h"
 #include "tests/support/deck_text.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +9,6 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
-#include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
 
@@ -17,32 +17,8 @@ namespace {
 namespace fs = std::filesystem;
 using keydeck::test::ReadFile;
 
-struct Outcome {
-  int status = -1;
-  std::string out;
-  std::string err;
-};
-
-/// Runs the keydeck binary with `args`, capturing its output.
-Outcome RunKeydeck(const std::vector<std::string>& args, const fs::path& folder) {
-  const fs::path out = folder / "stdout.txt";
-  const fs::path err = folder / "stderr.txt";
-  const pid_t pid = fork();
-  if (pid == 0) {
-    freopen(out.c_str(), "w", stdout);
-    freopen(err.c_str(), "w", stderr);
-    std::vector<char*> argv{const_cast<char*>(KEYDECK_BINARY)};
-    for (const std::string& arg : args)
-      argv.push_back(const_cast<char*>(arg.c_str()));
-    argv.push_back(nullptr);
-    execv(KEYDECK_BINARY, argv.data());
-    _exit(127);
-  }
-  int wstatus = 0;
-  waitpid(pid, &wstatus, 0);
-  return {WIFEXITED(wstatus) ? WEXITSTATUS(wstatus) : -1, ReadFile(out.string()),
-          ReadFile(err.string())};
-}
+using keydeck::test::Outcome;
+using keydeck::test::RunKeydeck;
 
 int CountLines(const std::string& text) {
   return static_cast<int>(std::count(text.begin(), text.end(), '\n'));
@@ -161,9 +137,11 @@ TEST_F(Command, MissingFilesModelsAndFolders) {
       {{"write", (folder_ / "absent.json").string()}, "absent.json"},
       {{"write", folder_.string()}, folder_.string()},
       {{"write", model.string(), "-m", "Default Modle"}, "no model named \"Default Modle\""},
-      {{"write", model.string(), "-o", (folder_ / "m.json" / "sub").string()}, "cannot write"},
-      {{"write", model.string(), "-o", (folder_ / "absent").string()}, "cannot write"},
+      {{"write", model.string(), "-o", (folder_ / "m.json" / "sub").string()}, "is not a folder"},
+      {{"write", model.string(), "-o", (folder_ / "absent").string()},
+       "the output folder \"" + (folder_ / "absent").string() + "\" does not exist"},
       {{"check", (folder_ / "absent.json").string()}, "absent.json"},
+      {{"check", model.string(), "-m", "Default Modle"}, "no model named \"Default Modle\""},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.args[1]);
@@ -187,6 +165,70 @@ TEST_F(Command, CheckReportsEveryProblem) {
   const Outcome run = RunKeydeck({"check", bad.string()}, folder_);
   EXPECT_EQ(run.status, 1);
   EXPECT_EQ(CountLines(run.err), 3) << run.err;
+}
+
+TEST_F(Command, CheckTakesOneModelOrAll) {
+  const fs::path path = Model("two.json", R"({"format": "keydeck-model", "version": 1,
+    "models": {"A": {"parts": {"P": {}}}, "B": {"parts": {"Q": {}}}}})");
+  const Outcome all = RunKeydeck({"check", path.string()}, folder_);
+  EXPECT_EQ(all.status, 0) << all.err;
+  EXPECT_NE(all.out.find("(\"A\", \"B\")"), std::string::npos) << all.out;
+  const Outcome one = RunKeydeck({"check", path.string(), "--model=B"}, folder_);
+  EXPECT_EQ(one.status, 0) << one.err;
+  EXPECT_NE(one.out.find("(\"B\")"), std::string::npos) << one.out;
+  const Outcome absent = RunKeydeck({"check", path.string(), "-m", "Default Model"}, folder_);
+  EXPECT_EQ(absent.status, 1);
+  EXPECT_EQ(absent.err, "keydeck: " + path.string() +
+                            ": no model named \"Default Model\"; the file has \"A\", \"B\"\n");
+}
+
+TEST_F(Command, StandardInputAndOutput) {
+  const fs::path model = Model("beam.json", GoodModel);
+  ASSERT_EQ(RunKeydeck({"write", model.string(), "-o", Out().string(), "-q"}, folder_).status, 0);
+  const std::string deck = ReadFile((Out() / "beam.inp").string());
+  ASSERT_FALSE(deck.empty());
+
+  const Outcome piped = RunKeydeck({"write", "-", "--stdout", "-q"}, folder_, model);
+  EXPECT_EQ(piped.status, 0) << piped.err;
+  EXPECT_EQ(piped.out, deck);
+  const Outcome named =
+      RunKeydeck({"write", "-", "-j", "fromstdin", "-o", Out().string()}, folder_, model);
+  EXPECT_EQ(named.status, 0) << named.err;
+  EXPECT_EQ(ReadFile((Out() / "fromstdin.inp").string()), deck);
+  const Outcome checked = RunKeydeck({"check", "-"}, folder_, model);
+  EXPECT_EQ(checked.status, 0) << checked.err;
+  EXPECT_NE(checked.out.find("standard input is a valid model file"), std::string::npos);
+
+  // Without a job name a deck from standard input has no file name.
+  const Outcome unnamed = RunKeydeck({"write", "-", "-o", Out().string()}, folder_, model);
+  EXPECT_EQ(unnamed.status, 2);
+  EXPECT_NE(unnamed.err.find("needs a job name"), std::string::npos) << unnamed.err;
+  const fs::path bad = Model("bad.json", "{\"format\": 1}");
+  const Outcome failed = RunKeydeck({"write", "-", "--stdout"}, folder_, bad);
+  EXPECT_EQ(failed.status, 1);
+  EXPECT_EQ(failed.out, "");
+}
+
+TEST_F(Command, OptionsWithEqualsAndTheEndOfOptions) {
+  const fs::path model = Model("-beam.json", GoodModel);
+  const Outcome run = RunKeydeck({"write", "--output=" + Out().string(), "--job=a=b",
+                                  "--model=Default Model", "--", model.string()},
+                                 folder_);
+  EXPECT_EQ(run.status, 0) << run.err;
+  EXPECT_EQ(Written(), std::vector<std::string>{"a=b.inp"});
+  // After "--" a name that starts with "-" is the model file, not an option.
+  const Outcome dashed = RunKeydeck({"write", "-o", Out().string(), "--", "-beam.json"}, folder_);
+  EXPECT_EQ(dashed.status, 1);
+  EXPECT_NE(dashed.err.find("-beam.json"), std::string::npos) << dashed.err;
+
+  const std::vector<std::vector<std::string>> misuses = {{"write", "--quiet=yes", "m.json"},
+                                                         {"write", "--jobs=x", "m.json"},
+                                                         {"write", "m.json", "--", "-q"},
+                                                         {"check", "-j=x", "m.json"}};
+  for (const auto& args : misuses) {
+    const Outcome misuse = RunKeydeck(args, folder_);
+    EXPECT_EQ(misuse.status, 2) << args[1];
+  }
 }
 
 TEST_F(Command, SchemaIsJson) {
