@@ -9,6 +9,7 @@
 #include "oif/oif_MaterialBuilder.h"
 #include "oif/oif_PartBuilder.h"
 #include "oif/oif_RegionBuilder.h"
+#include "oif/oif_StepBuilder.h"
 #include "qkw/qkw_BuilderComponent.h"
 
 class oif_Model;
@@ -61,6 +62,7 @@ private:
   oif_MaterialBuilder material_;
   oif_PartBuilder part_;
   oif_RegionBuilder region_;
+  oif_StepBuilder step_;
   oif_FinalBuilder final_;
   bool v6Format_;
   const oif_Model* model_;
