@@ -631,7 +631,7 @@ void Reader::UnknownKey(std::string_view key, std::vector<std::string_view>& dro
       Error("mass scaling is not supported yet");
       return;
     }
-    what += " in a " + QuotedJson(FindEnumEntry(Step::Kind)->fileText) + " step";
+    what += " for procedure " + QuotedJson(FindEnumEntry(Step::Kind)->fileText);
   }
   Error(what + Suggestion<R>(key));
 }
@@ -1138,11 +1138,11 @@ void Reader::ReadStep(od::object& object, std::type_identity<Step>, kprC_StepCon
   out.Append(step.name, kprC_StepContainer::Handle(static_cast<const kprC_Step&>(step.step)));
 }
 
-// The number as the model file writes it.
+// The shortest text that reads back as `value`.
 std::string NumberText(double value) {
-  JsonText text;
-  text.Real(value);
-  return text.Take();
+  std::array<char, 32> text{};
+  const std::to_chars_result end = std::to_chars(text.data(), text.data() + text.size(), value);
+  return std::string(text.data(), end.ptr);
 }
 
 // What the fields of a step must satisfy together, and what the step leaves
