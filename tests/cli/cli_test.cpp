@@ -1,5 +1,6 @@
 // The keydeck command as a user meets it: exit status, messages, and what it
 // leaves in the output folder.
+#include "tests/support/command.h"
 #include "tests/support/deck_text.h"
 
 #include <gtest/gtest.h>
@@ -15,34 +16,9 @@
 namespace {
 
 namespace fs = std::filesystem;
+using keydeck::test::Outcome;
 using keydeck::test::ReadFile;
-
-struct Outcome {
-  int status = -1;
-  std::string out;
-  std::string err;
-};
-
-/// Runs the keydeck binary with `args`, capturing its output.
-Outcome RunKeydeck(const std::vector<std::string>& args, const fs::path& folder) {
-  const fs::path out = folder / "stdout.txt";
-  const fs::path err = folder / "stderr.txt";
-  const pid_t pid = fork();
-  if (pid == 0) {
-    freopen(out.c_str(), "w", stdout);
-    freopen(err.c_str(), "w", stderr);
-    std::vector<char*> argv{const_cast<char*>(KEYDECK_BINARY)};
-    for (const std::string& arg : args)
-      argv.push_back(const_cast<char*>(arg.c_str()));
-    argv.push_back(nullptr);
-    execv(KEYDECK_BINARY, argv.data());
-    _exit(127);
-  }
-  int wstatus = 0;
-  waitpid(pid, &wstatus, 0);
-  return {WIFEXITED(wstatus) ? WEXITSTATUS(wstatus) : -1, ReadFile(out.string()),
-          ReadFile(err.string())};
-}
+using keydeck::test::RunKeydeck;
 
 int CountLines(const std::string& text) {
   return static_cast<int>(std::count(text.begin(), text.end(), '\n'));
