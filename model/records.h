@@ -7,6 +7,7 @@
 #include <source_location>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 
 namespace keydeck {
 
@@ -188,6 +189,12 @@ const T& RecordCast(const Record& record,
     nex_canDynamicCastRef(T::TypeId(), record.DynTypeId(), where.file_name(),
                           static_cast<int>(where.line()));
   return static_cast<const T&>(record);
+}
+
+/// The same for a record that the loader completes.
+template <class T, class Record>
+T& RecordCast(Record& record, std::source_location where = std::source_location::current()) {
+  return const_cast<T&>(RecordCast<T>(std::as_const(record), where));
 }
 
 } // namespace keydeck

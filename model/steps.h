@@ -5,6 +5,7 @@
 #include "base/cow_String.h"
 #include "base/mdl_MapString2ObjCow.h"
 #include "model/records.h"
+#include "model/regions.h"
 
 /// Which solver a job needs: 0 the implicit solver, 1 the explicit solver,
 /// 3 both (a model whose analysis steps mix the two).
@@ -103,9 +104,15 @@ public:
   /// True for a procedure of the explicit solver.
   virtual bool isExplicit() const { return false; }
 
+  /// Geometric nonlinearity of a step: 0 off, 1 on.
+  enum NlgeomEnm : int { NlgeomOff = 0, NlgeomOn = 1 };
+  /// The step's own geometric nonlinearity; off for a procedure without one.
+  virtual NlgeomEnm Nlgeom() const { return NlgeomOff; }
+  static NlgeomEnm NlgeomOf(bool on) { return on ? NlgeomOn : NlgeomOff; }
+
   template <class V> void Fields(V& v) { v("solverInput", solverInput, cow_String()); }
 
-  cow_String solverInput; ///< raw solver text that closes the step, kept verbatim
+  keydeck::SolverText solverInput; ///< raw solver text that closes the step, kept verbatim
 };
 
 /// The initial step: the model state before the first analysis step.
@@ -132,11 +139,13 @@ public:
 
   template <class V> void Fields(V& v) {
     v("procedure", procedure);
+    v("description", description, cow_String());
     kprC_Step::Fields(v);
     v("loadCases", loadCases, mdl_MapString2ObjCow<klcC_LoadCase>());
   }
 
   kprC_ProcedureEnm procedure = kprC_Static;
+  cow_String description; ///< the line under "*Step", as it stands; empty for none
   mdl_MapString2ObjCow<klcC_LoadCase> loadCases;
 };
 
@@ -155,26 +164,537 @@ protected:
   kprC_ProcedureStep() { procedure = Procedure; }
 };
 
-class kprC_AnnealStep : public kprC_ProcedureStep<kprC_AnnealStep, kprC_Anneal> {};
-class kprC_CoupledTempDisplacementStep
-    : public kprC_ProcedureStep<kprC_CoupledTempDisplacementStep, kprC_CoupledTempDisplacement> {};
-class kprC_CoupledThermalElectricStep
-    : public kprC_ProcedureStep<kprC_CoupledThermalElectricStep, kprC_CoupledThermalElectric> {};
-class kprC_ExplicitDynamicsStep
-    : public kprC_ProcedureStep<kprC_ExplicitDynamicsStep, kprC_ExplicitDynamics> {};
-class kprC_GeostaticStep : public kprC_ProcedureStep<kprC_GeostaticStep, kprC_Geostatic> {};
-class kprC_HeatTransferStep : public kprC_ProcedureStep<kprC_HeatTransferStep, kprC_HeatTransfer> {
+/// How the increments of a step are chosen.
+enum kprC_IncrementationEnm : int { kprC_AutomaticIncrements = 0, kprC_FixedIncrements = 1 };
+
+/// How an explicit step chooses its increments: 0 automatic from the global
+/// stability estimate, 1 fixed increments the user gives, 2 automatic from
+/// the element-by-element estimate, 3 fixed at the initial element-by-element
+/// estimate.
+enum kprC_ExplicitIncrementationEnm : int {
+  kprC_ExplicitAutomatic = 0,
+  kprC_ExplicitUserFixed = 1,
+  kprC_ExplicitElementByElement = 2,
+  kprC_ExplicitFixed = 3,
 };
-class kprC_ImplicitDynamicsStep
-    : public kprC_ProcedureStep<kprC_ImplicitDynamicsStep, kprC_ImplicitDynamics> {};
-class kprC_MassDiffusionStep
-    : public kprC_ProcedureStep<kprC_MassDiffusionStep, kprC_MassDiffusion> {};
-class kprC_SoilsStep : public kprC_ProcedureStep<kprC_SoilsStep, kprC_Soils> {};
-class kprC_StaticStep : public kprC_ProcedureStep<kprC_StaticStep, kprC_Static> {};
-class kprC_StaticRiksStep : public kprC_ProcedureStep<kprC_StaticRiksStep, kprC_StaticRiks> {};
-class kprC_ViscoStep : public kprC_ProcedureStep<kprC_ViscoStep, kprC_Visco> {};
+
+/// How loads change over a step: applied at once or ramped over the step.
+enum kprC_AmplitudeEnm : int { kprC_StepAmplitude = 0, kprC_RampAmplitude = 1 };
+
+/// How the solver extrapolates the first guess of an increment. The implicit
+/// dynamics step's default is the solver's own choice for the application.
+enum kprC_ExtrapolationEnm : int {
+  kprC_LinearExtrapolation = 0,
+  kprC_ParabolicExtrapolation = 1,
+  kprC_NoExtrapolation = 2,
+  kprC_DefaultExtrapolation = 4,
+};
+
+/// The equation solver's matrix storage: the solver's choice, symmetric or
+/// unsymmetric.
+enum kprC_MatrixStorageEnm : int {
+  kprC_SolverDefaultStorage = 0,
+  kprC_SymmetricStorage = 1,
+  kprC_UnsymmetricStorage = 2,
+};
+
+/// Automatic stabilization: none, by the fraction of dissipated energy, or
+/// by a damping factor.
+enum kprC_StabilizationEnm : int {
+  kprC_NoStabilization = 0,
+  kprC_EnergyFractionStabilization = 1,
+  kprC_DampingFactorStabilization = 2,
+};
+
+/// The solution technique of a coupled step: full Newton or separated.
+enum kprC_SolutionTechniqueEnm : int { kprC_FullNewton = 0, kprC_Separated = 1 };
+
+/// A steady-state or a transient response.
+enum kprC_ResponseEnm : int { kprC_SteadyState = 0, kprC_Transient = 1 };
+
+/// The response of a soils step: consolidation (transient) or steady state.
+enum kprC_SoilsResponseEnm : int { kprC_Consolidation = 0, kprC_SoilsSteadyState = 1 };
+
+/// How creep is integrated: implicitly, explicitly, or not at all.
+enum kprC_CreepEnm : int { kprC_ImplicitCreep = 0, kprC_ExplicitCreep = 1, kprC_NoCreep = 2 };
+
+namespace keydeck {
+
+template <> struct EnumTable<kprC_IncrementationEnm> {
+  static constexpr std::string_view Noun = "incrementation";
+  static constexpr EnumEntry<kprC_IncrementationEnm> Entries[] = {
+      {kprC_AutomaticIncrements, "", "automatic"}, {kprC_FixedIncrements, "", "fixed"}};
+};
+template <> struct EnumTable<kprC_ExplicitIncrementationEnm> {
+  static constexpr std::string_view Noun = "incrementation";
+  static constexpr EnumEntry<kprC_ExplicitIncrementationEnm> Entries[] = {
+      {kprC_ExplicitAutomatic, "", "automatic"},
+      {kprC_ExplicitUserFixed, "", "userFixed"},
+      {kprC_ExplicitElementByElement, "", "elementByElement"},
+      {kprC_ExplicitFixed, "", "fixed"}};
+};
+template <> struct EnumTable<kprC_AmplitudeEnm> {
+  static constexpr std::string_view Noun = "amplitude";
+  static constexpr EnumEntry<kprC_AmplitudeEnm> Entries[] = {{kprC_StepAmplitude, "STEP", "step"},
+                                                             {kprC_RampAmplitude, "RAMP", "ramp"}};
+};
+// Only the parabolic text reaches the deck; every other value that is not the
+// procedure's default is written as "NO".
+template <> struct EnumTable<kprC_ExtrapolationEnm> {
+  static constexpr std::string_view Noun = "extrapolation";
+  static constexpr EnumEntry<kprC_ExtrapolationEnm> Entries[] = {
+      {kprC_LinearExtrapolation, "LINEAR", "linear"},
+      {kprC_ParabolicExtrapolation, "PARABOLIC", "parabolic"},
+      {kprC_NoExtrapolation, "NO", "none"},
+      {kprC_DefaultExtrapolation, "", "solverDefault"}};
+};
+template <> struct EnumTable<kprC_MatrixStorageEnm> {
+  static constexpr std::string_view Noun = "matrix storage";
+  static constexpr EnumEntry<kprC_MatrixStorageEnm> Entries[] = {
+      {kprC_SolverDefaultStorage, "", "solverDefault"},
+      {kprC_SymmetricStorage, "NO", "symmetric"},
+      {kprC_UnsymmetricStorage, "YES", "unsymmetric"}};
+};
+template <> struct EnumTable<kprC_StabilizationEnm> {
+  static constexpr std::string_view Noun = "stabilization";
+  static constexpr EnumEntry<kprC_StabilizationEnm> Entries[] = {
+      {kprC_NoStabilization, "", "none"},
+      {kprC_EnergyFractionStabilization, "", "energyFraction"},
+      {kprC_DampingFactorStabilization, "", "dampingFactor"}};
+};
+template <> struct EnumTable<kprC_SolutionTechniqueEnm> {
+  static constexpr std::string_view Noun = "solution technique";
+  static constexpr EnumEntry<kprC_SolutionTechniqueEnm> Entries[] = {
+      {kprC_FullNewton, "", "fullNewton"}, {kprC_Separated, "SEPARATED", "separated"}};
+};
+template <> struct EnumTable<kprC_ResponseEnm> {
+  static constexpr std::string_view Noun = "response";
+  static constexpr EnumEntry<kprC_ResponseEnm> Entries[] = {{kprC_SteadyState, "", "steadyState"},
+                                                            {kprC_Transient, "", "transient"}};
+};
+template <> struct EnumTable<kprC_SoilsResponseEnm> {
+  static constexpr std::string_view Noun = "response";
+  static constexpr EnumEntry<kprC_SoilsResponseEnm> Entries[] = {
+      {kprC_Consolidation, "", "consolidation"}, {kprC_SoilsSteadyState, "", "steadyState"}};
+};
+template <> struct EnumTable<kprC_CreepEnm> {
+  static constexpr std::string_view Noun = "creep";
+  static constexpr EnumEntry<kprC_CreepEnm> Entries[] = {{kprC_ImplicitCreep, "", "implicit"},
+                                                         {kprC_ExplicitCreep, "", "explicit"},
+                                                         {kprC_NoCreep, "", "none"}};
+};
+
+} // namespace keydeck
+
+/// The increments of a step: its time period, the most increments, the
+/// method and the increment sizes. The sizes left out are derived after
+/// loading: the initial and the largest increment default to the period, the
+/// smallest to the lesser of the initial increment and 1e-5 of the period.
+struct kprC_Incrementation {
+  double timePeriod = 1.0;
+  int maxNumInc = 100;
+  kprC_IncrementationEnm timeIncrementationMethod = kprC_AutomaticIncrements;
+  double initialInc = keydeck::NotGivenDouble;
+  double minInc = keydeck::NotGivenDouble;
+  double maxInc = keydeck::NotGivenDouble;
+
+  template <class V> void IncrementationFields(V& v) {
+    v("timePeriod", timePeriod, 1.0);
+    v("maxIncrements", maxNumInc, 100);
+    v("incrementation", timeIncrementationMethod, kprC_AutomaticIncrements);
+    v("initialIncrement", initialInc, keydeck::NotGivenDouble);
+    v("minIncrement", minInc, keydeck::NotGivenDouble);
+    v("maxIncrement", maxInc, keydeck::NotGivenDouble);
+  }
+};
+
+/// Automatic stabilization of a step and its magnitude.
+struct kprC_Stabilization {
+  kprC_StabilizationEnm stabilizationMethod = kprC_NoStabilization;
+  double stabilizationMagnitude = 0.0002;
+
+  template <class V> void StabilizationFields(V& v) {
+    v("stabilization", stabilizationMethod, kprC_NoStabilization);
+    v("stabilizationMagnitude", stabilizationMagnitude, 0.0002);
+  }
+};
+
+/// The amplitude and extrapolation options of the "*Step" line, with the
+/// procedure's defaults `Amplitude` and `Extrapolation`.
+template <kprC_AmplitudeEnm Amplitude, kprC_ExtrapolationEnm Extrapolation>
+struct kprC_StepLineOptions {
+  static constexpr kprC_AmplitudeEnm DefaultAmplitude = Amplitude;
+  static constexpr kprC_ExtrapolationEnm DefaultExtrapolation = Extrapolation;
+
+  kprC_AmplitudeEnm amplitude = Amplitude;
+  kprC_ExtrapolationEnm extrapolation = Extrapolation;
+
+  template <class V> void StepLineFields(V& v) {
+    v("amplitude", amplitude, Amplitude);
+    v("extrapolation", extrapolation, Extrapolation);
+  }
+};
+
+/// The matrix storage of a step's equation solver.
+struct kprC_MatrixStorageOption {
+  kprC_MatrixStorageEnm matrixStorage = kprC_SolverDefaultStorage;
+  template <class V> void MatrixStorageFields(V& v) {
+    v("matrixStorage", matrixStorage, kprC_SolverDefaultStorage);
+  }
+};
+
+/// Geometric nonlinearity of a step: off or on.
+struct kprC_NlgeomOption {
+  bool nlgeom = false;
+  template <class V> void NlgeomFields(V& v) { v("nlgeom", nlgeom, false); }
+};
+
+/// An anneal step: the model returns to its annealed state.
+class kprC_AnnealStep : public kprC_ProcedureStep<kprC_AnnealStep, kprC_Anneal>,
+                        public kprC_NlgeomOption {
+public:
+  kprC_Step::NlgeomEnm Nlgeom() const override { return NlgeomOf(nlgeom); }
+  template <class V> void Fields(V& v) {
+    kprC_AnalysisStep::Fields(v);
+    NlgeomFields(v);
+    v("temperature", temperature, keydeck::NotGivenDouble);
+  }
+
+  double temperature = keydeck::NotGivenDouble; ///< the anneal temperature
+};
+
+/// A fully coupled temperature-displacement step.
+class kprC_CoupledTempDisplacementStep
+    : public kprC_ProcedureStep<kprC_CoupledTempDisplacementStep, kprC_CoupledTempDisplacement>,
+      public kprC_NlgeomOption,
+      public kprC_StepLineOptions<kprC_StepAmplitude, kprC_LinearExtrapolation>,
+      public kprC_MatrixStorageOption,
+      public kprC_Incrementation,
+      public kprC_Stabilization {
+public:
+  kprC_Step::NlgeomEnm Nlgeom() const override { return NlgeomOf(nlgeom); }
+  template <class V> void Fields(V& v) {
+    kprC_AnalysisStep::Fields(v);
+    NlgeomFields(v);
+    StepLineFields(v);
+    MatrixStorageFields(v);
+    IncrementationFields(v);
+    v("response", response, kprC_Transient);
+    v("creep", creep, kprC_ImplicitCreep);
+    v("deltmx", deltmx, 0.0);
+    v("cetol", cetol, 0.0);
+    StabilizationFields(v);
+    v("solutionTechnique", solutionTechnique, kprC_FullNewton);
+  }
+
+  kprC_ResponseEnm response = kprC_Transient;
+  kprC_CreepEnm creep = kprC_ImplicitCreep;
+  double deltmx = 0.0; ///< largest temperature change per increment; 0 for none
+  double cetol = 0.0;  ///< creep strain error tolerance; 0 for none
+  kprC_SolutionTechniqueEnm solutionTechnique = kprC_FullNewton;
+};
+
+/// A fully coupled thermal-electrical step.
+class kprC_CoupledThermalElectricStep
+    : public kprC_ProcedureStep<kprC_CoupledThermalElectricStep, kprC_CoupledThermalElectric>,
+      public kprC_StepLineOptions<kprC_StepAmplitude, kprC_LinearExtrapolation>,
+      public kprC_MatrixStorageOption,
+      public kprC_Incrementation {
+public:
+  template <class V> void Fields(V& v) {
+    kprC_AnalysisStep::Fields(v);
+    StepLineFields(v);
+    MatrixStorageFields(v);
+    IncrementationFields(v);
+    v("response", response, kprC_Transient);
+    v("endValue", endValue, keydeck::NotGivenDouble);
+    v("deltmx", deltmx, 0.0);
+    v("mxdem", mxdem, 0.1);
+    v("solutionTechnique", solutionTechnique, kprC_FullNewton);
+  }
+
+  kprC_ResponseEnm response = kprC_Transient;
+  double endValue = keydeck::NotGivenDouble; ///< rate for a steady-state end; not given: the period
+  double deltmx = 0.0;
+  double mxdem = 0.1;
+  kprC_SolutionTechniqueEnm solutionTechnique = kprC_FullNewton;
+};
+
+/// What the two explicit procedures share: the time period, the
+/// incrementation and the bulk viscosity.
+struct kprC_ExplicitOptions {
+  double timePeriod = 1.0;
+  kprC_ExplicitIncrementationEnm timeIncrementationMethod = kprC_ExplicitAutomatic;
+  double initialInc = keydeck::NotGivenDouble; ///< the fixed increment the user gives
+  double maxInc = keydeck::NotGivenDouble;
+  double scaleFactor = 1.0;
+  double linearBulkViscosity = 0.06;
+  double quadBulkViscosity = 1.2;
+
+  template <class V> void ExplicitFields(V& v) {
+    v("timePeriod", timePeriod, 1.0);
+    v("incrementation", timeIncrementationMethod, kprC_ExplicitAutomatic);
+    v("initialIncrement", initialInc, keydeck::NotGivenDouble);
+    v("maxIncrement", maxInc, keydeck::NotGivenDouble);
+    v("scaleFactor", scaleFactor, 1.0);
+    v("linearBulkViscosity", linearBulkViscosity, 0.06);
+    v("quadraticBulkViscosity", quadBulkViscosity, 1.2);
+  }
+};
+
+/// A dynamic step of the explicit solver.
+class kprC_ExplicitDynamicsStep
+    : public kprC_ProcedureStep<kprC_ExplicitDynamicsStep, kprC_ExplicitDynamics>,
+      public kprC_NlgeomOption,
+      public kprC_ExplicitOptions {
+public:
+  kprC_ExplicitDynamicsStep() { nlgeom = true; }
+  kprC_Step::NlgeomEnm Nlgeom() const override { return NlgeomOf(nlgeom); }
+  template <class V> void Fields(V& v) {
+    kprC_AnalysisStep::Fields(v);
+    v("nlgeom", nlgeom, true);
+    ExplicitFields(v);
+    v("adiabatic", adiabatic, false);
+  }
+
+  bool adiabatic = false;
+};
+
+/// A coupled temperature-displacement step of the explicit solver.
 class kprC_TempDisplacementDynamicsStep
-    : public kprC_ProcedureStep<kprC_TempDisplacementDynamicsStep, kprC_TempDisplacementDynamics> {
+    : public kprC_ProcedureStep<kprC_TempDisplacementDynamicsStep, kprC_TempDisplacementDynamics>,
+      public kprC_NlgeomOption,
+      public kprC_ExplicitOptions {
+public:
+  kprC_TempDisplacementDynamicsStep() { nlgeom = true; }
+  kprC_Step::NlgeomEnm Nlgeom() const override { return NlgeomOf(nlgeom); }
+  template <class V> void Fields(V& v) {
+    kprC_AnalysisStep::Fields(v);
+    v("nlgeom", nlgeom, true);
+    ExplicitFields(v);
+  }
+};
+
+/// A geostatic step: the initial stress state of soils.
+class kprC_GeostaticStep : public kprC_ProcedureStep<kprC_GeostaticStep, kprC_Geostatic>,
+                           public kprC_NlgeomOption,
+                           public kprC_MatrixStorageOption {
+public:
+  kprC_Step::NlgeomEnm Nlgeom() const override { return NlgeomOf(nlgeom); }
+  template <class V> void Fields(V& v) {
+    kprC_AnalysisStep::Fields(v);
+    NlgeomFields(v);
+    MatrixStorageFields(v);
+  }
+};
+
+/// An uncoupled heat transfer step.
+class kprC_HeatTransferStep
+    : public kprC_ProcedureStep<kprC_HeatTransferStep, kprC_HeatTransfer>,
+      public kprC_StepLineOptions<kprC_StepAmplitude, kprC_LinearExtrapolation>,
+      public kprC_MatrixStorageOption,
+      public kprC_Incrementation {
+public:
+  template <class V> void Fields(V& v) {
+    kprC_AnalysisStep::Fields(v);
+    StepLineFields(v);
+    MatrixStorageFields(v);
+    IncrementationFields(v);
+    v("response", response, kprC_Transient);
+    v("endValue", endValue, keydeck::NotGivenDouble);
+    v("deltmx", deltmx, 0.0);
+    v("mxdem", mxdem, 0.1);
+  }
+
+  kprC_ResponseEnm response = kprC_Transient;
+  double endValue = keydeck::NotGivenDouble; ///< rate for a steady-state end; not given: the period
+  double deltmx = 0.0;
+  double mxdem = 0.1;
+};
+
+/// A dynamic step of the implicit solver.
+class kprC_ImplicitDynamicsStep
+    : public kprC_ProcedureStep<kprC_ImplicitDynamicsStep, kprC_ImplicitDynamics>,
+      public kprC_NlgeomOption,
+      public kprC_StepLineOptions<kprC_StepAmplitude, kprC_DefaultExtrapolation>,
+      public kprC_MatrixStorageOption,
+      public kprC_Incrementation {
+public:
+  kprC_Step::NlgeomEnm Nlgeom() const override { return NlgeomOf(nlgeom); }
+  template <class V> void Fields(V& v) {
+    kprC_AnalysisStep::Fields(v);
+    NlgeomFields(v);
+    StepLineFields(v);
+    MatrixStorageFields(v);
+    IncrementationFields(v);
+    v("alpha", alpha, keydeck::NotGivenDouble);
+    v("haftol", haftol, keydeck::NotGivenDouble);
+    v("noHaf", noHaf, false);
+    v("noStop", noStop, false);
+    v("adiabatic", adiabatic, false);
+    v("initialAcceleration", initialAcceleration, true);
+  }
+
+  double alpha = keydeck::NotGivenDouble;
+  double haftol = keydeck::NotGivenDouble; ///< required for automatic increments
+  bool noHaf = false;
+  bool noStop = false;
+  bool adiabatic = false;
+  bool initialAcceleration = true; ///< false: the solver takes no initial accelerations
+};
+
+/// A mass diffusion step.
+class kprC_MassDiffusionStep
+    : public kprC_ProcedureStep<kprC_MassDiffusionStep, kprC_MassDiffusion>,
+      public kprC_StepLineOptions<kprC_StepAmplitude, kprC_LinearExtrapolation>,
+      public kprC_Incrementation {
+public:
+  template <class V> void Fields(V& v) {
+    kprC_AnalysisStep::Fields(v);
+    StepLineFields(v);
+    IncrementationFields(v);
+    v("response", response, kprC_Transient);
+    v("endValue", endValue, 0.0);
+    v("dcmax", dcmax, keydeck::NotGivenDouble);
+  }
+
+  kprC_ResponseEnm response = kprC_Transient;
+  double endValue = 0.0;                  ///< rate for a steady-state end; 0: the period
+  double dcmax = keydeck::NotGivenDouble; ///< required for automatic increments
+};
+
+/// A soils step: consolidation or steady-state pore fluid flow.
+class kprC_SoilsStep : public kprC_ProcedureStep<kprC_SoilsStep, kprC_Soils>,
+                       public kprC_NlgeomOption,
+                       public kprC_StepLineOptions<kprC_StepAmplitude, kprC_LinearExtrapolation>,
+                       public kprC_MatrixStorageOption,
+                       public kprC_Incrementation,
+                       public kprC_Stabilization {
+public:
+  kprC_Step::NlgeomEnm Nlgeom() const override { return NlgeomOf(nlgeom); }
+  template <class V> void Fields(V& v) {
+    kprC_AnalysisStep::Fields(v);
+    NlgeomFields(v);
+    StepLineFields(v);
+    MatrixStorageFields(v);
+    IncrementationFields(v);
+    v("response", response, kprC_Consolidation);
+    v("endValue", endValue, keydeck::NotGivenDouble);
+    v("utol", utol, 0.0);
+    v("creep", creep, true);
+    v("cetol", cetol, 0.0);
+    StabilizationFields(v);
+  }
+
+  kprC_SoilsResponseEnm response = kprC_Consolidation;
+  double endValue = keydeck::NotGivenDouble;
+  double utol = 0.0;  ///< pore pressure change per increment; 0 writes the solver's 1.0
+  bool creep = true;  ///< false: no creep in the step
+  double cetol = 0.0; ///< creep strain error tolerance; 0 for none
+};
+
+/// What the static and the Riks step share besides their increments.
+struct kprC_StaticOptions {
+  bool adiabatic = false;
+  bool noStop = false;
+  keydeck::DeckName fullyPlastic; ///< region to be fully plastic; empty for none
+
+  template <class V> void StaticFields(V& v) {
+    v("adiabatic", adiabatic, false);
+    v("noStop", noStop, false);
+    v("fullyPlastic", fullyPlastic, keydeck::DeckName());
+  }
+};
+
+/// A static stress step.
+class kprC_StaticStep : public kprC_ProcedureStep<kprC_StaticStep, kprC_Static>,
+                        public kprC_NlgeomOption,
+                        public kprC_StepLineOptions<kprC_RampAmplitude, kprC_LinearExtrapolation>,
+                        public kprC_MatrixStorageOption,
+                        public kprC_Incrementation,
+                        public kprC_StaticOptions,
+                        public kprC_Stabilization {
+public:
+  kprC_Step::NlgeomEnm Nlgeom() const override { return NlgeomOf(nlgeom); }
+  template <class V> void Fields(V& v) {
+    kprC_AnalysisStep::Fields(v);
+    NlgeomFields(v);
+    StepLineFields(v);
+    MatrixStorageFields(v);
+    IncrementationFields(v);
+    StaticFields(v);
+    StabilizationFields(v);
+  }
+};
+
+/// A static step by the modified Riks method, with an optional limit on the
+/// displacement of one node.
+class kprC_StaticRiksStep : public kprC_ProcedureStep<kprC_StaticRiksStep, kprC_StaticRiks>,
+                            public kprC_NlgeomOption,
+                            public kprC_MatrixStorageOption,
+                            public kprC_StaticOptions {
+public:
+  /// The arc length the Riks method does not bound.
+  static constexpr double UnboundedArcIncrement = 1e36;
+
+  kprC_Step::NlgeomEnm Nlgeom() const override { return NlgeomOf(nlgeom); }
+  bool HasLimit() const { return !limitNode.Empty(); }
+  template <class V> void Fields(V& v) {
+    kprC_AnalysisStep::Fields(v);
+    NlgeomFields(v);
+    v("extrapolation", extrapolation, kprC_LinearExtrapolation);
+    MatrixStorageFields(v);
+    v("maxIncrements", maxNumInc, 100);
+    v("incrementation", timeIncrementationMethod, kprC_AutomaticIncrements);
+    v("initialArcIncrement", initialArcInc, 1.0);
+    v("totalArcLength", totalArcLength, 1.0);
+    v("minArcIncrement", minArcInc, 1e-5);
+    v("maxArcIncrement", maxArcInc, UnboundedArcIncrement);
+    v("maxLoadProportionalityFactor", maxLPF, keydeck::NotGivenDouble);
+    StaticFields(v);
+    v("longTerm", longTerm, false);
+    v("limitNode", limitNode, cow_String());
+    v("limitDof", limitDof, 1);
+    v("limitValue", limitValue, 0.0);
+  }
+
+  kprC_ExtrapolationEnm extrapolation = kprC_LinearExtrapolation;
+  int maxNumInc = 100;
+  kprC_IncrementationEnm timeIncrementationMethod = kprC_AutomaticIncrements;
+  double initialArcInc = 1.0;
+  double totalArcLength = 1.0;
+  double minArcInc = 1e-5;
+  double maxArcInc = UnboundedArcIncrement;
+  double maxLPF = keydeck::NotGivenDouble;
+  bool longTerm = false;
+  cow_String limitNode; ///< the node set of the limit, by region name; empty for no limit
+  int limitDof = 1;
+  double limitValue = 0.0;
+  rgnC_Region nodeRegion; ///< derived after loading from `limitNode`
+};
+
+/// A transient viscoelastic or creep step.
+class kprC_ViscoStep : public kprC_ProcedureStep<kprC_ViscoStep, kprC_Visco>,
+                       public kprC_NlgeomOption,
+                       public kprC_StepLineOptions<kprC_StepAmplitude, kprC_LinearExtrapolation>,
+                       public kprC_MatrixStorageOption,
+                       public kprC_Incrementation,
+                       public kprC_Stabilization {
+public:
+  kprC_Step::NlgeomEnm Nlgeom() const override { return NlgeomOf(nlgeom); }
+  template <class V> void Fields(V& v) {
+    kprC_AnalysisStep::Fields(v);
+    NlgeomFields(v);
+    StepLineFields(v);
+    MatrixStorageFields(v);
+    IncrementationFields(v);
+    v("cetol", cetol, keydeck::NotGivenDouble);
+    v("creep", creep, kprC_ImplicitCreep);
+    StabilizationFields(v);
+  }
+
+  double cetol = keydeck::NotGivenDouble; ///< required for automatic increments
+  kprC_CreepEnm creep = kprC_ImplicitCreep;
 };
 
 namespace keydeck {
@@ -203,6 +723,8 @@ public:
   const kprC_Step& ConstGet(const cow_String& name) const;
   const cow_String& NameAt(int i) const { return names_.ConstGet(i); }
   const kprC_Step& StepAt(int i) const { return *steps_.ConstGet(i); }
+  /// The step at `i`, for the loader's derived fields.
+  kprC_Step& GetStep(int i) { return steps_.Get(i).Get(); }
   /// Appends a step; the caller has checked that the name is new.
   void Append(const cow_String& name, Handle step);
 

@@ -9,6 +9,7 @@
 #include "oif/oif_MaterialBuilder.h"
 #include "oif/oif_PartBuilder.h"
 #include "oif/oif_RegionBuilder.h"
+#include "oif/oif_StepBuilder.h"
 #include "oif/oif_TransformBuilder.h"
 #include "qkw/qkw_BuilderComponent.h"
 
@@ -68,6 +69,7 @@ private:
   oif_MaterialBuilder material_;
   oif_PartBuilder part_;
   oif_RegionBuilder region_;
+  oif_StepBuilder step_;
   oif_TransformBuilder transform_;
   oif_FinalBuilder final_;
   bool v6Format_;

@@ -2,6 +2,7 @@
 
 #include "model/json/derive_orientations.h"
 #include "model/json/json_text.h"
+#include "model/json/region_names.h"
 
 #include <algorithm>
 #include <array>
@@ -711,6 +712,21 @@ void DeriveAssemblySets(std::string_view modelPath, ddb_Model& model,
       errors);
 }
 
+// The limit node of each Riks step, found by its region name like any other
+// region; the assembly's sets must be derived first.
+void DeriveStepRegions(std::string_view modelPath, ddb_Model& model, LoadErrors& errors) {
+  kprC_StepContainer& steps = model.steps_.steps;
+  for (int i = 1; i < steps.Size(); ++i) {
+    if (steps.StepAt(i).DynTypeId() != kprC_StaticRiksStep::TypeId())
+      continue;
+    kprC_StaticRiksStep& riks = RecordCast<kprC_StaticRiksStep>(steps.GetStep(i));
+    if (!riks.HasLimit())
+      continue;
+    const std::string path = std::string(modelPath) + "/steps/" + std::to_string(i) + "/limitNode";
+    riks.nodeRegion = ResolveRegion(model, riks.limitNode.View(), path, errors);
+  }
+}
+
 } // namespace
 
 void DeriveModel(std::string_view modelPath, ddb_Model& model, LoadErrors& errors) {
@@ -738,6 +754,7 @@ void DeriveModel(std::string_view modelPath, ddb_Model& model, LoadErrors& error
   DeriveInstances(modelPath, model, errors);
   DeriveAssemblySets(modelPath, model, partLabels, errors);
   DeriveDatumsAndOrientations(modelPath, model, errors);
+  DeriveStepRegions(modelPath, model, errors);
 }
 
 } // namespace keydeck

@@ -148,14 +148,8 @@ void AddGasketWarnings(std::string_view modelName, const ddb_Model& model,
 
 void AddUnwrittenWarnings(const cow_Btree<cow_String, ddb_Model>& models,
                           std::vector<std::string>& warnings) {
-  for (const auto& [name, model] : models) {
+  for (const auto& [name, model] : models)
     AddGasketWarnings(name.View(), model, warnings);
-    const kprC_StepContainer& steps = model.step().container();
-    for (int i = 1; i < steps.Size(); ++i)
-      warnings.push_back("models/" + std::string(name.View()) + "/steps/" + std::to_string(i) +
-                         ": the step card and its procedure are not written yet; the deck holds "
-                         "the step's raw text and closing cards only");
-  }
 }
 
 // A field left out of the file takes its default; a record left out takes the
@@ -505,6 +499,11 @@ private:
   void Read(od::value value, kprC_StepContainer& out);
   template <class Step>
   void ReadStep(od::object& object, std::type_identity<Step>, kprC_StepContainer& out);
+  template <class Step> void FinishStep(Step& step);
+  void FinishIncrements(kprC_Incrementation& increments);
+  /// False, with the message, for a negative time period.
+  bool AcceptTimePeriod(double period);
+  void RequireForAutomatic(bool automatic, double value, const char* field);
   template <FieldRecord R> void Read(od::value value, R& out) {
     od::object object;
     if (GetObject(value, object))
@@ -720,7 +719,17 @@ void Reader::UnknownKey(std::string_view key, std::vector<std::string_view>& dro
       return;
     }
   }
-  Error("unknown field " + QuotedJson(key) + Suggestion<R>(key));
+  std::string what = "unknown field " + QuotedJson(key);
+  if constexpr (requires { decltype(R::step)::Kind; }) {
+    using Step = decltype(R::step);
+    if (std::is_base_of_v<kprC_ExplicitOptions, Step> && key == "massScaling") {
+      PathScope scope(*this, key);
+      Error("mass scaling is not supported yet");
+      return;
+    }
+    what += " for procedure " + QuotedJson(FindEnumEntry(Step::Kind)->fileText);
+  }
+  Error(what + Suggestion<R>(key));
 }
 
 template <class M> void Reader::ReadHeaderField(od::object& root, std::string_view key, M& member) {
@@ -1268,6 +1277,8 @@ void Reader::ReadStep(od::object& object, std::type_identity<Step>, kprC_StepCon
   NamedStep<Step> step;
   const int before = errors_.Count();
   ReadObject(object, step);
+  if (errors_.Count() == before && !Stopped())
+    FinishStep(step.step);
   if (errors_.Count() != before)
     return;
   std::string fault = NameFault(step.name.View());
@@ -1279,6 +1290,80 @@ void Reader::ReadStep(od::object& object, std::type_identity<Step>, kprC_StepCon
     return;
   }
   out.Append(step.name, kprC_StepContainer::Handle(static_cast<const kprC_Step&>(step.step)));
+}
+
+// The shortest text that reads back as `value`.
+std::string NumberText(double value) {
+  std::array<char, 32> text{};
+  const std::to_chars_result end = std::to_chars(text.data(), text.data() + text.size(), value);
+  return std::string(text.data(), end.ptr);
+}
+
+// What the fields of a step must satisfy together, and what the step leaves
+// out that the deck needs.
+template <class Step> void Reader::FinishStep(Step& step) {
+  if constexpr (std::is_base_of_v<kprC_AnalysisStep, Step>) {
+    if (step.description.View().find_first_of("\r\n") != std::string_view::npos) {
+      PathScope scope(*this, "description");
+      Error("a description is one line; it holds a line end");
+    }
+  }
+  if constexpr (std::is_base_of_v<kprC_Incrementation, Step>)
+    FinishIncrements(step);
+  if constexpr (std::is_base_of_v<kprC_ExplicitOptions, Step>) {
+    AcceptTimePeriod(step.timePeriod);
+    if (step.timeIncrementationMethod == kprC_ExplicitUserFixed &&
+        step.initialInc == NotGivenDouble)
+      Error("missing field \"initialIncrement\", which the userFixed incrementation needs");
+  }
+  if constexpr (std::is_same_v<Step, kprC_ImplicitDynamicsStep>)
+    RequireForAutomatic(step.timeIncrementationMethod == kprC_AutomaticIncrements, step.haftol,
+                        "haftol");
+  if constexpr (std::is_same_v<Step, kprC_ViscoStep>)
+    RequireForAutomatic(step.timeIncrementationMethod == kprC_AutomaticIncrements, step.cetol,
+                        "cetol");
+  if constexpr (std::is_same_v<Step, kprC_MassDiffusionStep>)
+    RequireForAutomatic(step.timeIncrementationMethod == kprC_AutomaticIncrements, step.dcmax,
+                        "dcmax");
+}
+
+// The deck writes these tolerances whenever the increments are automatic,
+// and the solver has no default for them.
+void Reader::RequireForAutomatic(bool automatic, double value, const char* field) {
+  if (automatic && value == NotGivenDouble)
+    Error("missing field " + QuotedJson(field) + ", which automatic incrementation needs");
+}
+
+bool Reader::AcceptTimePeriod(double period) {
+  if (period >= 0)
+    return true;
+  PathScope scope(*this, "timePeriod");
+  Error("the time period must not be negative, found " + NumberText(period));
+  return false;
+}
+
+// The increment sizes left out take the period (initial and largest) and the
+// lesser of the initial increment and 1e-5 of the period (smallest).
+void Reader::FinishIncrements(kprC_Incrementation& increments) {
+  if (!AcceptTimePeriod(increments.timePeriod))
+    return;
+  if (increments.initialInc == NotGivenDouble)
+    increments.initialInc = increments.timePeriod;
+  if (increments.maxInc == NotGivenDouble)
+    increments.maxInc = increments.timePeriod;
+  if (increments.minInc == NotGivenDouble)
+    increments.minInc = std::min(increments.initialInc, 1e-5 * increments.timePeriod);
+  if (increments.initialInc > increments.timePeriod) {
+    PathScope scope(*this, "initialIncrement");
+    Error("the initial increment " + NumberText(increments.initialInc) +
+          " is larger than the time period " + NumberText(increments.timePeriod));
+  }
+  if (increments.timeIncrementationMethod == kprC_AutomaticIncrements &&
+      increments.minInc > increments.maxInc) {
+    PathScope scope(*this, "minIncrement");
+    Error("the smallest increment " + NumberText(increments.minInc) +
+          " is larger than the largest " + NumberText(increments.maxInc));
+  }
 }
 
 std::string ErrnoText(int number) {

@@ -1,6 +1,6 @@
 // The keydeck command as a user meets it: exit status, messages, and what it
 // leaves in the output folder.
-#include "tests/cli/run_keydeck.h"
+#include "tests/support/run_keydeck.h"
 #include "tests/support/deck_text.h"
 
 #include <gtest/gtest.h>
@@ -15,6 +15,7 @@
 namespace {
 
 namespace fs = std::filesystem;
+using keydeck::test::Outcome;
 using keydeck::test::ReadFile;
 
 using keydeck::test::Outcome;

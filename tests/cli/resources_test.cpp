@@ -1,7 +1,7 @@
 // What a model file can make `keydeck write` spend: memory grows with the
 // file, not with what its ranges say, and running out of memory is a message.
 #include "bench/benchmark_model.h"
-#include "tests/cli/run_keydeck.h"
+#include "tests/support/run_keydeck.h"
 
 #include <gtest/gtest.h>
 

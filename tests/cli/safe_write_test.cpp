@@ -3,7 +3,7 @@
 #include "bench/benchmark_model.h"
 #include "model/json/loader.h"
 #include "oif/oif_Writer.h"
-#include "tests/cli/run_keydeck.h"
+#include "tests/support/run_keydeck.h"
 #include "tests/support/deck_text.h"
 
 #include <gtest/gtest.h>

@@ -56,8 +56,11 @@ TEST(Steps, EachProcedureClassRoundTrips) {
   VisitKindClasses<kprC_AnalysisStep>([&](auto type) {
     using K = typename decltype(type)::type;
     const std::string word(FindEnumEntry(K::Kind)->fileText);
+    // The three whose automatic increments need a tolerance take fixed ones.
+    const bool fixed = word == "implicitDynamics" || word == "visco" || word == "massDiffusion";
     steps += (steps.empty() ? "" : ", ") + std::string(R"({"name": ")") + word +
-             R"(", "solverInput": "x", "procedure": ")" + word + R"("})";
+             R"(", "solverInput": "x", )" + (fixed ? R"("incrementation": "fixed", )" : "") +
+             R"("procedure": ")" + word + R"("})";
     ids.push_back(K::TypeId());
   });
   const odb_Odb odb = Load(WithSteps(steps));
@@ -88,4 +91,56 @@ TEST(Steps, SchemaListsOneObjectPerProcedure) {
   });
   EXPECT_EQ(words, expected);
   EXPECT_EQ(words.front(), "anneal");
+}
+
+TEST(Steps, FieldAndValueMessages) {
+  ExpectMessages({
+      {"field of another procedure",
+       WithSteps(R"({"name": "S", "procedure": "anneal", "timePeriod": 2})"),
+       {R"(models/M/steps/1: unknown field "timePeriod" for procedure "anneal")"}},
+      {"negative time period",
+       WithSteps(R"({"name": "S", "procedure": "static", "timePeriod": -1})"),
+       {"models/M/steps/1/timePeriod: the time period must not be negative, found -1"}},
+      {"negative explicit time period",
+       WithSteps(R"({"name": "S", "procedure": "explicitDynamics", "timePeriod": -0.5})"),
+       {"models/M/steps/1/timePeriod: the time period must not be negative, found -0.5"}},
+      {"initial increment beyond the period",
+       WithSteps(R"({"name": "S", "procedure": "visco", "cetol": 1, "initialIncrement": 2})"),
+       {"models/M/steps/1/initialIncrement: the initial increment 2 is larger than the time "
+        "period 1"}},
+      {"smallest increment beyond the largest",
+       WithSteps(R"({"name": "S", "procedure": "static", "minIncrement": 0.5,
+                     "maxIncrement": 0.25})"),
+       {"models/M/steps/1/minIncrement: the smallest increment 0.5 is larger than the largest "
+        "0.25"}},
+      {"tolerance that automatic increments need",
+       WithSteps(R"({"name": "S", "procedure": "implicitDynamics"})"),
+       {R"(models/M/steps/1: missing field "haftol", which automatic incrementation needs)"}},
+      {"user-fixed explicit increments without their size",
+       WithSteps(R"({"name": "S", "procedure": "tempDisplacementDynamics",
+                     "incrementation": "userFixed"})"),
+       {R"(models/M/steps/1: missing field "initialIncrement", which the userFixed )"
+        "incrementation needs"}},
+      {"mass scaling",
+       WithSteps(R"({"name": "S", "procedure": "explicitDynamics", "massScaling": []})"),
+       {"models/M/steps/1/massScaling: mass scaling is not supported yet"}},
+      {"description of two lines",
+       WithSteps(R"({"name": "S", "procedure": "geostatic", "description": "a\nb"})"),
+       {"models/M/steps/1/description: a description is one line; it holds a line end"}},
+      {"Riks limit node that does not exist",
+       WithSteps(R"({"name": "S", "procedure": "staticRiks", "limitNode": "Tip"})"),
+       {R"(models/M/steps/1/limitNode: no set "Tip" in the assembly)"}},
+  });
+}
+
+// The increment sizes a step leaves out follow its period.
+TEST(Steps, IncrementSizesFollowThePeriod) {
+  const odb_Odb odb = Load(WithSteps(R"({"name": "S", "procedure": "static", "timePeriod": 4},
+      {"name": "T", "procedure": "static", "timePeriod": 4, "initialIncrement": 1e-6})"));
+  const auto& first = RecordCast<kprC_StaticStep>(StepOf(odb, 1));
+  EXPECT_EQ(first.initialInc, 4);
+  EXPECT_EQ(first.maxInc, 4);
+  EXPECT_EQ(first.minInc, 4e-5);
+  const auto& second = RecordCast<kprC_StaticStep>(StepOf(odb, 2));
+  EXPECT_EQ(second.minInc, 1e-6); // never above the initial increment
 }

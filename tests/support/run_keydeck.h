@@ -1,48 +1,72 @@
 #pragma once
 
+// Runs the keydeck binary as a user would, for the tests of the command: from a
+// test program that knows where it was built (KEYDECK_BINARY).
+
 #include "tests/support/deck_text.h"
 
 #include <cstdio>
-#include <fstream>
+#include <filesystem>
 #include <string>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
 
-// Inline, since only the test programs know where the command was built
-// (KEYDECK_BINARY).
 namespace keydeck::test {
 
-/// What one run of the keydeck command gave.
+/// How a run of the command ended.
 struct Outcome {
-  int status = -1; ///< the exit status; -1 when the command did not exit
+  int status = -1; ///< exit status; -1 when a signal ended it
+  int signal = 0;  ///< the signal that ended it, if one did
   std::string out;
   std::string err;
+  long peakKilobytes = 0; ///< the child's peak resident memory
 };
 
-/// Runs the keydeck binary with `args` and `input` on its standard input,
-/// keeping its output in files of `folder`.
-inline Outcome RunKeydeck(const std::vector<std::string>& args, const std::string& folder,
-                          const std::string& input = {}) {
-  const std::string in = folder + "/stdin.txt";
-  const std::string out = folder + "/stdout.txt";
-  const std::string err = folder + "/stderr.txt";
-  std::ofstream(in, std::ios::binary) << input;
+/// Starts the keydeck binary with `args`; its standard output and error go to
+/// files in `folder`, its standard input comes from `input` (when given), and
+/// its address space is limited to `addressLimit` bytes (when not 0).
+inline pid_t StartKeydeck(const std::vector<std::string>& args, const std::filesystem::path& folder,
+                          const std::filesystem::path& input = {}, rlim_t addressLimit = 0) {
+  const std::filesystem::path out = folder / "stdout.txt";
+  const std::filesystem::path err = folder / "stderr.txt";
   const pid_t pid = fork();
-  if (pid == 0) {
-    if (!std::freopen(in.c_str(), "r", stdin) || !std::freopen(out.c_str(), "w", stdout) ||
-        !std::freopen(err.c_str(), "w", stderr))
-      _exit(127);
-    std::vector<char*> argv{const_cast<char*>(KEYDECK_BINARY)};
-    for (const std::string& arg : args)
-      argv.push_back(const_cast<char*>(arg.c_str()));
-    argv.push_back(nullptr);
-    execv(KEYDECK_BINARY, argv.data());
-    _exit(127);
-  }
+  if (pid != 0)
+    return pid;
+  if (std::freopen(out.c_str(), "w", stdout) == nullptr ||
+      std::freopen(err.c_str(), "w", stderr) == nullptr ||
+      (!input.empty() && std::freopen(input.c_str(), "r", stdin) == nullptr))
+    _exit(126);
+  const rlimit limit{addressLimit, addressLimit};
+  if (addressLimit != 0 && setrlimit(RLIMIT_AS, &limit) != 0)
+    _exit(126);
+  std::vector<char*> argv{const_cast<char*>(KEYDECK_BINARY)};
+  for (const std::string& arg : args)
+    argv.push_back(const_cast<char*>(arg.c_str()));
+  argv.push_back(nullptr);
+  execv(KEYDECK_BINARY, argv.data());
+  _exit(127);
+}
+
+/// Waits for a run that `StartKeydeck` began and collects what it left.
+inline Outcome FinishKeydeck(pid_t pid, const std::filesystem::path& folder) {
   int wstatus = 0;
-  waitpid(pid, &wstatus, 0);
-  return {WIFEXITED(wstatus) ? WEXITSTATUS(wstatus) : -1, ReadFile(out), ReadFile(err)};
+  rusage usage{};
+  wait4(pid, &wstatus, 0, &usage);
+  Outcome outcome;
+  outcome.status = WIFEXITED(wstatus) ? WEXITSTATUS(wstatus) : -1;
+  outcome.signal = WIFSIGNALED(wstatus) ? WTERMSIG(wstatus) : 0;
+  outcome.out = ReadFile((folder / "stdout.txt").string());
+  outcome.err = ReadFile((folder / "stderr.txt").string());
+  outcome.peakKilobytes = usage.ru_maxrss;
+  return outcome;
+}
+
+/// Runs the keydeck binary with `args` to its end.
+inline Outcome RunKeydeck(const std::vector<std::string>& args, const std::filesystem::path& folder,
+                          const std::filesystem::path& input = {}) {
+  return FinishKeydeck(StartKeydeck(args, folder, input), folder);
 }
 
 } // namespace keydeck::test

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "model/steps.h"
+#include "qkw/qkw_Keyword.h"
+
+/// "*Visco". `v6Format` chooses the spelling of the creep parameter.
+class oif_Visco : public qkw_Keyword {
+public:
+  oif_Visco(const kprC_AnalysisStep& step, bool v6Format);
+  qkw_Keyword* Copy() const override;
+  void Write(utl_Stream& s) const override;
+
+private:
+  kprC_ViscoStep record_;
+  bool v6Format_;
+};

@@ -1,0 +1,84 @@
+// Steps as a user of the command meets them: the deck's step blocks, and the
+// step faults of a model file refused with a message and no deck.
+#include "tests/support/run_keydeck.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <unistd.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+using keydeck::test::Outcome;
+using keydeck::test::ReadFile;
+using keydeck::test::RunKeydeck;
+
+class StepCommand : public ::testing::Test {
+protected:
+  void SetUp() override {
+    folder_ = fs::temp_directory_path() /
+              ("keydeck-steps-" + std::to_string(getpid()) + "-" +
+               ::testing::UnitTest::GetInstance()->current_test_info()->name());
+    fs::remove_all(folder_);
+    fs::create_directories(folder_);
+  }
+  void TearDown() override { fs::remove_all(folder_); }
+
+  // Writes a model whose steps after the initial one are `steps`, runs
+  // `keydeck write` on it.
+  Outcome Write(const std::string& steps) {
+    const fs::path model = folder_ / "job.json";
+    std::ofstream(model, std::ios::binary)
+        << R"({"format": "keydeck-model", "version": 1, "models": {"Default Model": {
+             "parts": {"P": {"nodes": {"labels": [1], "coordinates": [[0, 0, 0]]}}},
+             "assembly": {"instances": {"P-1": {"part": "P"}}},
+             "steps": [{"name": "Initial"}, )"
+        << steps << "]}}}";
+    return RunKeydeck({"write", model.string(), "-o", folder_.string()}, folder_);
+  }
+  std::string Deck() const { return ReadFile((folder_ / "job.inp").string()); }
+  bool DeckExists() const { return fs::exists(folder_ / "job.inp"); }
+
+  fs::path folder_;
+};
+
+TEST_F(StepCommand, WritesStepCardAndProcedureWithoutWarning) {
+  const Outcome run = Write(R"({"name": "Pull", "procedure": "static", "nlgeom": true})");
+  EXPECT_EQ(run.status, 0) << run.err;
+  EXPECT_EQ(run.err, "");
+  EXPECT_NE(Deck().find("** STEP: Pull\n** \n*Step, name=Pull, nlgeom=YES\n*Static\n"
+                        "1., 1., 1e-05, 1.\n*End Step\n"),
+            std::string::npos)
+      << Deck();
+}
+
+TEST_F(StepCommand, StepFaultsExitOneWithoutDeck) {
+  const std::pair<const char*, const char*> cases[] = {
+      {R"({"name": "S", "procedure": "static", "timePeriod": -2})",
+       "models/Default Model/steps/1/timePeriod: the time period must not be negative, found -2"},
+      {R"({"name": "S", "procedure": "static", "initialIncrement": 3})",
+       "models/Default Model/steps/1/initialIncrement: the initial increment 3 is larger than "
+       "the time period 1"},
+      {R"({"name": "S", "procedure": "static", "minIncrement": 1, "maxIncrement": 0.5})",
+       "models/Default Model/steps/1/minIncrement: the smallest increment 1 is larger than the "
+       "largest 0.5"},
+      {R"({"name": "S", "procedure": "heatTransfer", "nlgeom": true})",
+       R"(models/Default Model/steps/1: unknown field "nlgeom" for procedure "heatTransfer")"},
+      {R"({"name": "S", "procedure": "staticRiks", "limitNode": "P-1.Tip"})",
+       R"(models/Default Model/steps/1/limitNode: no set "Tip" in instance "P-1")"},
+      {R"({"name": "S", "procedure": "frequency"})",
+       R"(models/Default Model/steps/1/procedure: procedure "frequency" is not supported yet)"},
+  };
+  for (const auto& [steps, message] : cases) {
+    SCOPED_TRACE(steps);
+    const Outcome run = Write(steps);
+    EXPECT_EQ(run.status, 1);
+    EXPECT_NE(run.err.find(message), std::string::npos) << run.err;
+    EXPECT_FALSE(DeckExists());
+  }
+}
+
+} // namespace
