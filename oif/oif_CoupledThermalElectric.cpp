@@ -14,12 +14,7 @@ qkw_Keyword* oif_CoupledThermalElectric::Copy() const {
 
 void oif_CoupledThermalElectric::Write(utl_Stream& s) const {
   s << "*Coupled Thermal-Electrical";
-  if (record_.response == kprC_SteadyState) {
-    s.OptionalLineBreak();
-    s << ", steady state";
-  } else {
-    WriteThermalEnd(s, record_.endValue);
-  }
+  WriteThermalResponse(s, record_.response, record_.endValue);
   if (record_.timeIncrementationMethod == kprC_AutomaticIncrements) {
     s << ", deltmx=" << record_.deltmx;
     if (record_.mxdem != 0.1)

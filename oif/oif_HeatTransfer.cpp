@@ -12,12 +12,7 @@ qkw_Keyword* oif_HeatTransfer::Copy() const { return new oif_HeatTransfer(*this)
 
 void oif_HeatTransfer::Write(utl_Stream& s) const {
   s << "*Heat Transfer";
-  if (record_.response == kprC_SteadyState) {
-    s.OptionalLineBreak();
-    s << ", steady state";
-  } else {
-    WriteThermalEnd(s, record_.endValue);
-  }
+  WriteThermalResponse(s, record_.response, record_.endValue);
   if (record_.timeIncrementationMethod == kprC_AutomaticIncrements) {
     s.OptionalLineBreak();
     s << ", deltmx=" << record_.deltmx;

@@ -11,14 +11,7 @@ oif_Static::oif_Static(const kprC_AnalysisStep& step)
 qkw_Keyword* oif_Static::Copy() const { return new oif_Static(*this); }
 
 void oif_Static::Write(utl_Stream& s) const {
-  s << "*Static";
-  if (record_.adiabatic)
-    s << ", adiabatic";
-  WriteDirect(s, record_.timeIncrementationMethod, record_.noStop);
-  if (!record_.fullyPlastic.Empty()) {
-    s.OptionalLineBreak();
-    s << ", fully plastic=" << record_.fullyPlastic;
-  }
+  WriteStaticHead(s, record_, record_.timeIncrementationMethod);
   WriteStabilize(s, record_);
   s.LineBreak();
   WriteIncrements(s, record_);

@@ -12,14 +12,7 @@ oif_StaticRiks::oif_StaticRiks(const kprC_AnalysisStep& step, const cow_String& 
 qkw_Keyword* oif_StaticRiks::Copy() const { return new oif_StaticRiks(*this); }
 
 void oif_StaticRiks::Write(utl_Stream& s) const {
-  s << "*Static";
-  if (record_.adiabatic)
-    s << ", adiabatic";
-  WriteDirect(s, record_.timeIncrementationMethod, record_.noStop);
-  if (!record_.fullyPlastic.Empty()) {
-    s.OptionalLineBreak();
-    s << ", fully plastic=" << record_.fullyPlastic;
-  }
+  WriteStaticHead(s, record_, record_.timeIncrementationMethod);
   if (record_.longTerm) {
     s.OptionalLineBreak();
     s << ", long term";

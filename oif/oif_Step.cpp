@@ -91,25 +91,14 @@ template <class K> void oif_Step::WriteParameters(utl_Stream& s, const K& step) 
 void oif_Step::Write(utl_Stream& s) const {
   s << "*Step, name=" << qkw_QuorvexName(name_, false);
   const kprC_AnalysisStep& step = RecordCast<kprC_AnalysisStep>(*step_);
-  switch (step.ProcedureType()) {
-  case kprC_Buckle:
-  case kprC_Frequency:
-  case kprC_ModalDynamics:
-  case kprC_RandomResponse:
-  case kprC_ResponseSpectrum:
-  case kprC_StaticLinearPerturbation:
-  case kprC_SteadyStateDirect:
-  case kprC_SteadyStateModal:
-  case kprC_SteadyStateSubspace:
+  if (step.Perturbation()) {
     WriteFlag(s, "perturbation", true);
-    break;
-  default: {
+  } else {
     const bool known = VisitKindClass<kprC_AnalysisStep>(
         static_cast<kprC_ProcedureEnm>(step.ProcedureType()),
         [&](auto type) { WriteParameters(s, RecordCast<typename decltype(type)::type>(step)); });
     if (!known)
       Raise("Unimplemented function to write out *Step card");
-  }
   }
   s.LineBreak();
   if (!step.description.Empty())

@@ -10,6 +10,27 @@ void WriteDirect(utl_Stream& s, kprC_IncrementationEnm method, bool noStop) {
     s << (noStop ? ", direct=NO STOP" : ", direct");
 }
 
+void WriteStaticHead(utl_Stream& s, const kprC_StaticOptions& options,
+                     kprC_IncrementationEnm method) {
+  s << "*Static";
+  if (options.adiabatic)
+    s << ", adiabatic";
+  WriteDirect(s, method, options.noStop);
+  if (!options.fullyPlastic.Empty()) {
+    s.OptionalLineBreak();
+    s << ", fully plastic=" << options.fullyPlastic;
+  }
+}
+
+void WriteThermalResponse(utl_Stream& s, kprC_ResponseEnm response, double endValue) {
+  if (response == kprC_SteadyState) {
+    s.OptionalLineBreak();
+    s << ", steady state";
+  } else {
+    WriteThermalEnd(s, endValue);
+  }
+}
+
 void WriteStabilize(utl_Stream& s, const kprC_Stabilization& stabilization) {
   if (stabilization.stabilizationMethod == kprC_NoStabilization)
     return;

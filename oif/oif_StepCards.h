@@ -11,6 +11,15 @@ namespace keydeck {
 /// ", direct=NO STOP" or ", direct" for fixed increments; nothing otherwise.
 void WriteDirect(utl_Stream& s, kprC_IncrementationEnm method, bool noStop);
 
+/// "*Static" and the parameters that a static and a Riks step share:
+/// ", adiabatic", the direct parameters of `method`, ", fully plastic=".
+void WriteStaticHead(utl_Stream& s, const kprC_StaticOptions& options,
+                     kprC_IncrementationEnm method);
+
+/// ", steady state" for a steady-state response, else the end parameter of
+/// `WriteThermalEnd`.
+void WriteThermalResponse(utl_Stream& s, kprC_ResponseEnm response, double endValue);
+
 /// ", stabilize=MAGNITUDE" or ", stabilize, factor=MAGNITUDE", each after a
 /// point where the line may break; nothing without stabilization.
 void WriteStabilize(utl_Stream& s, const kprC_Stabilization& stabilization);
