@@ -35,6 +35,14 @@ inline constexpr unsigned LoadCase = 37486800;
 inline constexpr unsigned PartInstance = 37490000;
 inline constexpr unsigned GasketSection = 0x2600018;
 inline constexpr unsigned Material = 37500000;
+inline constexpr unsigned BoltLoad = 0x2880024;
+inline constexpr unsigned DecayAmplitude = 0x2440003;
+inline constexpr unsigned EquallySpacedAmplitude = 0x2440004;
+inline constexpr unsigned ModulatedAmplitude = 0x2440005;
+inline constexpr unsigned PeriodicAmplitude = 0x2440006;
+inline constexpr unsigned SolutionDependentAmplitude = 0x2440007;
+inline constexpr unsigned TabularAmplitude = 0x2440008;
+inline constexpr unsigned SmoothStepAmplitude = 0x244000B;
 } // namespace TypeIds
 
 /// One enumerator of a model enumeration: its value, its text in the deck and

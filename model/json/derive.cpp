@@ -1,10 +1,12 @@
 #include "model/json/derive.h"
 
 #include "model/json/json_text.h"
+#include "model/propagation.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <concepts>
 #include <cstdint>
 #include <map>
 #include <numbers>
@@ -688,6 +690,49 @@ void DeriveAssemblySets(std::string_view modelPath, ddb_Model& model,
       errors);
 }
 
+template <class M> constexpr bool IsPropagatingMap = false;
+template <std::derived_from<kprC_PropagatingRecord> R>
+constexpr bool IsPropagatingMap<mdl_MapString2ObjCow<R>> = true;
+
+// Finds the model's maps of step-dependent records and derives the status and
+// state of each record in every step of the model.
+class StepStateDeriver {
+public:
+  StepStateDeriver(std::string_view modelPath, const kprC_StepContainer& steps, LoadErrors& errors)
+      : modelPath_(modelPath), steps_(steps), errors_(errors) {}
+  template <class M> void operator()(const char* name, M& member) { Visit(name, member); }
+  template <class M, class D> void operator()(const char* name, M& member, const D&) {
+    Visit(name, member);
+  }
+
+private:
+  template <class M> void Visit(const char* name, M& member) {
+    if constexpr (IsPropagatingMap<M>)
+      DeriveAll(name, member);
+  }
+  template <class R> void DeriveAll(const char* mapName, mdl_MapString2ObjCow<R>& records) {
+    for (const cow_String& name : records.Keys()) {
+      typename mdl_MapString2ObjCow<R>::Handle handle = records.ConstGetMap().ConstGet(name);
+      std::vector<StepFault> faults;
+      handle.Get().DeriveStates(steps_, faults);
+      for (const StepFault& fault : faults)
+        errors_.Add(std::string(modelPath_) + "/" + mapName + "/" + std::string(name.View()) + "/" +
+                        fault.where,
+                    fault.what);
+      records.Insert(name, std::move(handle));
+    }
+  }
+
+  std::string_view modelPath_;
+  const kprC_StepContainer& steps_;
+  LoadErrors& errors_;
+};
+
+void DeriveStepStates(std::string_view modelPath, ddb_Model& model, LoadErrors& errors) {
+  StepStateDeriver deriver(modelPath, model.step().container(), errors);
+  model.Fields(deriver);
+}
+
 } // namespace
 
 void DeriveModel(std::string_view modelPath, ddb_Model& model, LoadErrors& errors) {
@@ -714,6 +759,7 @@ void DeriveModel(std::string_view modelPath, ddb_Model& model, LoadErrors& error
   }
   DeriveInstances(modelPath, model, errors);
   DeriveAssemblySets(modelPath, model, partLabels, errors);
+  DeriveStepStates(modelPath, model, errors);
 }
 
 } // namespace keydeck

@@ -418,6 +418,14 @@ private:
     out.emplace();
     Read(value, *out);
   }
+  // An attribute of a step state that the file gives is set in its step.
+  template <class T> void Read(od::value value, mdl_PropAttr<T>& out) {
+    T given{};
+    const int before = errors_.Count();
+    Read(value, given);
+    if (errors_.Count() == before)
+      out = mdl_PropAttr<T>(std::move(given), mdl_AttributeSet);
+  }
   void Read(od::value value, LabelList& out);
   void CheckRange(const LabelRange& range);
   template <FieldRecord R> void Read(od::value value, cow_List<R>& out);
