@@ -3,6 +3,7 @@
 #include "base/cow_Btree.h"
 #include "base/cow_String.h"
 #include "base/mdl_MapString2ObjCow.h"
+#include "model/amplitudes.h"
 #include "model/materials.h"
 #include "model/mesh.h"
 #include "model/records.h"
@@ -171,6 +172,7 @@ public:
   bool shellToSolid() const { return shellToSolid_; }
   const mdl_MapString2ObjCow<kmaC_Material>& material() const { return materials_; }
   const mdl_MapString2ObjCow<kseC_Section>& sections() const { return sections_; }
+  const mdl_MapString2ObjCow<kamC_Amplitude>& amplitudes() const { return amplitudes_; }
 
   template <class V> void Fields(V& v) {
     v("parts", parts_.parts_, cow_Btree<cow_String, ddb_Part>());
@@ -194,6 +196,7 @@ public:
   ddb_Assembly assembly_;
   mdl_MapString2ObjCow<kmaC_Material> materials_;
   mdl_MapString2ObjCow<kseC_Section> sections_; ///< none until the section families load
+  mdl_MapString2ObjCow<kamC_Amplitude> amplitudes_;
   ddb_DdbStepContainer steps_;
   cow_String topLevelSolverInput_;
   cow_String solverInput_;

@@ -35,7 +35,7 @@ bool DerivedByRule(mdl_PropagationStatusEnm status) {
 class RuleWalk {
 public:
   RuleWalk(const kprC_StepContainer& steps, const std::vector<StepEntry>& entries,
-           std::vector<StepFault>& faults)
+           std::vector<RecordFault>& faults)
       : steps_(steps), entries_(entries), faults_(faults) {}
 
   std::vector<StepOutcome> Run(const cow_String& createdIn);
@@ -52,7 +52,7 @@ private:
 
   const kprC_StepContainer& steps_;
   const std::vector<StepEntry>& entries_;
-  std::vector<StepFault>& faults_;
+  std::vector<RecordFault>& faults_;
   bool inForce_ = true;
   cow_String deactivatedIn_;
 };
@@ -125,7 +125,7 @@ StepOutcome RuleWalk::Settle(int index, int e) {
 std::vector<StepOutcome> PropagationRule(const kprC_StepContainer& steps,
                                          const cow_String& createdIn,
                                          const std::vector<StepEntry>& entries,
-                                         std::vector<StepFault>& faults) {
+                                         std::vector<RecordFault>& faults) {
   return RuleWalk(steps, entries, faults).Run(createdIn);
 }
 

@@ -40,13 +40,6 @@ template <> struct EnumTable<mdl_PropagationStatusEnm> {
 template <class T> constexpr bool IsPropAttr = false;
 template <class T> constexpr bool IsPropAttr<mdl_PropAttr<T>> = true;
 
-/// A problem with the steps of one record: where, below the record's own path
-/// ("steps/Step-2"), and what is wrong.
-struct StepFault {
-  std::string where;
-  std::string what;
-};
-
 /// What a step after the creating one says of a record, as the file gives
 /// it: the attributes it sets, and a status word for what the rule cannot
 /// tell by itself ("deactivated", "created" after a deactivation,
@@ -93,7 +86,7 @@ struct StepOutcome {
 std::vector<StepOutcome> PropagationRule(const kprC_StepContainer& steps,
                                          const cow_String& createdIn,
                                          const std::vector<StepEntry>& entries,
-                                         std::vector<StepFault>& faults);
+                                         std::vector<RecordFault>& faults);
 
 } // namespace keydeck
 
@@ -132,7 +125,7 @@ public:
   /// Derives the status and state of every step of `steps` from what the file
   /// gives; problems go to `faults`.
   virtual void DeriveStates(const kprC_StepContainer& steps,
-                            std::vector<keydeck::StepFault>& faults) = 0;
+                            std::vector<keydeck::RecordFault>& faults) = 0;
 
   /// The fields every step-dependent record has.
   template <class V> void PropagationFields(V& v) {
@@ -177,7 +170,7 @@ public:
   kprC_PropagatingState<State> ConstGetStateQuad(const cow_String& step) const;
 
   void DeriveStates(const kprC_StepContainer& steps,
-                    std::vector<keydeck::StepFault>& faults) override;
+                    std::vector<keydeck::RecordFault>& faults) override;
 
   /// The file fields of the step-dependent part, for the family's `Fields`.
   template <class V> void StateFields(V& v) {
@@ -269,7 +262,7 @@ kprC_StepStates<Base, State>::ConstGetStateQuad(const cow_String& step) const {
 
 template <class Base, class State>
 void kprC_StepStates<Base, State>::DeriveStates(const kprC_StepContainer& steps,
-                                                std::vector<keydeck::StepFault>& faults) {
+                                                std::vector<keydeck::RecordFault>& faults) {
   std::vector<keydeck::StepEntry> entries;
   std::vector<const State*> given;
   for (const auto& [step, change] : changes) {

@@ -5,6 +5,7 @@
 
 #include <limits>
 #include <source_location>
+#include <string>
 #include <string_view>
 
 namespace keydeck {
@@ -44,6 +45,14 @@ inline constexpr unsigned SolutionDependentAmplitude = 0x2440007;
 inline constexpr unsigned TabularAmplitude = 0x2440008;
 inline constexpr unsigned SmoothStepAmplitude = 0x244000B;
 } // namespace TypeIds
+
+/// A problem inside one record that only the record's own checks find:
+/// where, below the record's path ("data/4", "steps/Step-2"), and what is
+/// wrong.
+struct RecordFault {
+  std::string where;
+  std::string what;
+};
 
 /// One enumerator of a model enumeration: its value, its text in the deck and
 /// its word in the model file.

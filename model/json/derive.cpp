@@ -713,9 +713,9 @@ private:
   template <class R> void DeriveAll(const char* mapName, mdl_MapString2ObjCow<R>& records) {
     for (const cow_String& name : records.Keys()) {
       typename mdl_MapString2ObjCow<R>::Handle handle = records.ConstGetMap().ConstGet(name);
-      std::vector<StepFault> faults;
+      std::vector<RecordFault> faults;
       handle.Get().DeriveStates(steps_, faults);
-      for (const StepFault& fault : faults)
+      for (const RecordFault& fault : faults)
         errors_.Add(std::string(modelPath_) + "/" + mapName + "/" + std::string(name.View()) + "/" +
                         fault.where,
                     fault.what);

@@ -77,7 +77,7 @@ TEST(Propagation, RuleRowByRowWithRecreation) {
   condition.changes.Insert("Step-4", Change(Sets(std::nullopt)));
   condition.changes.Insert("Step-5", Change(Sets(std::nullopt), PropDeactivated));
   condition.changes.Insert("Step-7", Change(Sets(std::nullopt, "Ramp"), PropCreated));
-  std::vector<StepFault> faults;
+  std::vector<RecordFault> faults;
   condition.DeriveStates(
       Steps({"Step-1", "Step-2", "Step-3", "Step-4", "Step-5", "Step-6", "Step-7", "Step-8"}),
       faults);
@@ -108,7 +108,7 @@ TEST(Propagation, StatusWordsForWhatTheRuleCannotTell) {
   condition.changes.Insert("Step-2", Change(Sets(2), PropModifiedBase));
   condition.changes.Insert("Step-3", Change(Sets(3), PropBuiltIn));
   condition.changes.Insert("Step-4", Change(Sets(std::nullopt), PropDeactivatedBase));
-  std::vector<StepFault> faults;
+  std::vector<RecordFault> faults;
   condition.DeriveStates(Steps({"Step-1", "Step-2", "Step-3", "Step-4", "Step-5"}), faults);
   EXPECT_TRUE(faults.empty());
   const auto unset = mdl_AttributeUnset;
@@ -129,7 +129,7 @@ TEST(Propagation, StepEntriesAndTheStepThatSetTheState) {
   condition.createdIn = "Step-1";
   condition.created = Sets(5, "Ramp");
   condition.changes.Insert("Step-3", Change(Sets(8)));
-  std::vector<StepFault> faults;
+  std::vector<RecordFault> faults;
   condition.DeriveStates(Steps({"Step-1", "Step-2", "Step-3", "Step-4"}), faults);
   const std::pair<const char*, const char*> cases[] = {{"Initial", ""},      {"Step-1", "Step-1"},
                                                        {"Step-2", "Step-1"}, {"Step-3", "Step-3"},
@@ -194,10 +194,10 @@ TEST(Propagation, Faults) {
     condition.createdIn = c.createdIn;
     for (const auto& [step, change] : c.changes)
       condition.changes.Insert(step, change);
-    std::vector<StepFault> faults;
+    std::vector<RecordFault> faults;
     condition.DeriveStates(Steps({"Step-1", "Step-2", "Step-3"}), faults);
     std::vector<std::pair<std::string, std::string>> found;
-    for (const StepFault& fault : faults)
+    for (const RecordFault& fault : faults)
       found.emplace_back(fault.where, fault.what);
     EXPECT_EQ(found, c.faults);
   }
@@ -208,7 +208,7 @@ TEST(Propagation, FaultyEntryCountsAsNone) {
   condition.createdIn = "Step-1";
   condition.created = Sets(1);
   condition.changes.Insert("Step-2", Change(Sets(2), PropPropagated));
-  std::vector<StepFault> faults;
+  std::vector<RecordFault> faults;
   condition.DeriveStates(Steps({"Step-1", "Step-2"}), faults);
   EXPECT_EQ(faults.size(), 1u);
   EXPECT_EQ(condition.Status("Step-2"), PropPropagated);

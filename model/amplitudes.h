@@ -1,0 +1,191 @@
+#pragma once
+
+#include "base/cow_List.h"
+#include "model/records.h"
+
+#include <optional>
+#include <string>
+
+// Amplitudes: the time (or frequency) functions that conditions and steps
+// refer to by name. Tables are flat lists of numbers in the deck's order:
+// time, value, time, value, ...
+
+/// A baseline correction of an amplitude: the times that bound its
+/// correction intervals.
+class kamC_BaselineCorrection {
+public:
+  template <class V> void Fields(V& v) {
+    v("correctionIntervals", correctionIntervals, cow_List<double>());
+  }
+
+  cow_List<double> correctionIntervals;
+};
+
+/// The base of the amplitude records.
+class kamC_Amplitude {
+public:
+  /// The time an amplitude runs on: the step's own (the default) or the
+  /// total time of the analysis.
+  enum TimeSpanEnm : int { StepTime = 0, TotalTime = 1 };
+
+  virtual ~kamC_Amplitude() = default;
+  virtual kamC_Amplitude* Copy() const = 0;
+  virtual unsigned DynTypeId() const = 0;
+  /// What is wrong with the record's data, if anything: a table of pairs
+  /// must hold an even count of numbers, and times must not decrease.
+  virtual std::optional<keydeck::RecordFault> CheckData() const { return std::nullopt; }
+
+  template <class V> void Fields(V& v) { v("timeSpan", timeSpan, StepTime); }
+
+  TimeSpanEnm timeSpan = StepTime;
+};
+
+namespace keydeck {
+
+// The deck writes " TIME" behind the text.
+template <> struct EnumTable<kamC_Amplitude::TimeSpanEnm> {
+  static constexpr std::string_view Noun = "time span";
+  static constexpr EnumEntry<kamC_Amplitude::TimeSpanEnm> Entries[] = {
+      {kamC_Amplitude::StepTime, "STEP", "step"},
+      {kamC_Amplitude::TotalTime, "TOTAL", "total"},
+  };
+};
+
+/// The common part of every amplitude record: its type id and copy.
+template <class Record, unsigned Id> class AmplitudeKind : public kamC_Amplitude {
+public:
+  kamC_Amplitude* Copy() const override { return new Record(static_cast<const Record&>(*this)); }
+  static constexpr unsigned TypeId() { return Id; }
+  static bool IsKindOf(unsigned id) { return id == Id; }
+  unsigned DynTypeId() const override { return Id; }
+};
+
+/// The fault of a flat table of pairs of `what` (odd length), and when
+/// `timed`, of a time less than the one before it.
+std::optional<RecordFault> PairTableFault(const cow_List<double>& data, const char* what,
+                                          bool timed);
+
+} // namespace keydeck
+
+/// Values at given times: "*Amplitude" with its table.
+class kamC_Tabular
+    : public keydeck::AmplitudeKind<kamC_Tabular, keydeck::TypeIds::TabularAmplitude> {
+public:
+  std::optional<keydeck::RecordFault> CheckData() const override;
+  template <class V> void Fields(V& v) {
+    kamC_Amplitude::Fields(v);
+    v("smooth", smooth, keydeck::NotGivenDouble);
+    v("data", data, cow_List<double>());
+    v("baseline", baseline, std::nullopt);
+  }
+
+  double smooth = keydeck::NotGivenDouble;
+  cow_List<double> data; ///< time, value, time, value, ...
+  std::optional<kamC_BaselineCorrection> baseline;
+};
+
+/// Values at times a fixed interval apart.
+class kamC_EquallySpaced
+    : public keydeck::AmplitudeKind<kamC_EquallySpaced, keydeck::TypeIds::EquallySpacedAmplitude> {
+public:
+  template <class V> void Fields(V& v) {
+    kamC_Amplitude::Fields(v);
+    v("fixedInterval", fixedInterval);
+    v("begin", begin, 0.0);
+    v("smooth", smooth, keydeck::NotGivenDouble);
+    v("data", data, cow_List<double>());
+    v("baseline", baseline, std::nullopt);
+  }
+
+  double fixedInterval = 0;
+  double begin = 0;
+  double smooth = keydeck::NotGivenDouble;
+  cow_List<double> data; ///< the values, one per interval
+  std::optional<kamC_BaselineCorrection> baseline;
+};
+
+/// A Fourier series: a constant and terms of a circular frequency.
+class kamC_Periodic
+    : public keydeck::AmplitudeKind<kamC_Periodic, keydeck::TypeIds::PeriodicAmplitude> {
+public:
+  std::optional<keydeck::RecordFault> CheckData() const override;
+  template <class V> void Fields(V& v) {
+    kamC_Amplitude::Fields(v);
+    v("frequency", frequency);
+    v("start", start, 0.0);
+    v("a0", a0, 0.0);
+    v("data", data, cow_List<double>());
+  }
+
+  double frequency = 0;
+  double start = 0;
+  double a0 = 0;
+  cow_List<double> data; ///< term A, term B, term A, term B, ...
+};
+
+/// A sine wave whose amplitude is a sine wave itself.
+class kamC_Modulated
+    : public keydeck::AmplitudeKind<kamC_Modulated, keydeck::TypeIds::ModulatedAmplitude> {
+public:
+  template <class V> void Fields(V& v) {
+    kamC_Amplitude::Fields(v);
+    v("a0", a0);
+    v("a", a);
+    v("start", start);
+    v("frequency1", frequency1);
+    v("frequency2", frequency2);
+  }
+
+  double a0 = 0;
+  double a = 0;
+  double start = 0;
+  double frequency1 = 0;
+  double frequency2 = 0;
+};
+
+/// An exponential decay from a start time.
+class kamC_Decay : public keydeck::AmplitudeKind<kamC_Decay, keydeck::TypeIds::DecayAmplitude> {
+public:
+  template <class V> void Fields(V& v) {
+    kamC_Amplitude::Fields(v);
+    v("a0", a0);
+    v("a", a);
+    v("start", start);
+    v("decayTime", decayTime);
+  }
+
+  double a0 = 0;
+  double a = 0;
+  double start = 0;
+  double decayTime = 0;
+};
+
+/// An amplitude that the solver adapts to the solution, within bounds.
+class kamC_SolutionDependent
+    : public keydeck::AmplitudeKind<kamC_SolutionDependent,
+                                    keydeck::TypeIds::SolutionDependentAmplitude> {
+public:
+  template <class V> void Fields(V& v) {
+    kamC_Amplitude::Fields(v);
+    v("initialValue", initialValue);
+    v("minimum", minimum);
+    v("maximum", maximum);
+  }
+
+  double initialValue = 0;
+  double minimum = 0;
+  double maximum = 0;
+};
+
+/// Values at given times, joined by smooth steps.
+class kamC_SmoothStep
+    : public keydeck::AmplitudeKind<kamC_SmoothStep, keydeck::TypeIds::SmoothStepAmplitude> {
+public:
+  std::optional<keydeck::RecordFault> CheckData() const override;
+  template <class V> void Fields(V& v) {
+    kamC_Amplitude::Fields(v);
+    v("data", data, cow_List<double>());
+  }
+
+  cow_List<double> data; ///< time, value, time, value, ...
+};
