@@ -1,0 +1,3 @@
+#include "keydeck/version.h"
+
+const char* keydeck::Version() { return KEYDECK_VERSION; }
