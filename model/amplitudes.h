@@ -21,6 +21,43 @@ public:
   cow_List<double> correctionIntervals;
 };
 
+/// The kinds of amplitude, by type id; the model file names them by word.
+enum kamC_AmplitudeTypeEnm : unsigned {
+  kamC_DecayType = keydeck::TypeIds::DecayAmplitude,
+  kamC_EquallySpacedType = keydeck::TypeIds::EquallySpacedAmplitude,
+  kamC_ModulatedType = keydeck::TypeIds::ModulatedAmplitude,
+  kamC_PeriodicType = keydeck::TypeIds::PeriodicAmplitude,
+  kamC_SolutionDependentType = keydeck::TypeIds::SolutionDependentAmplitude,
+  kamC_TabularType = keydeck::TypeIds::TabularAmplitude,
+  kamC_PsdDefinitionType = keydeck::TypeIds::PsdDefinitionAmplitude,
+  kamC_SpectrumType = keydeck::TypeIds::SpectrumAmplitude,
+  kamC_SmoothStepType = keydeck::TypeIds::SmoothStepAmplitude,
+  kamC_BubbleType = keydeck::TypeIds::BubbleAmplitude,
+  kamC_UserType = keydeck::TypeIds::UserAmplitude,
+};
+
+namespace keydeck {
+
+// Kinds have no deck text: the card tells them by type id.
+template <> struct EnumTable<kamC_AmplitudeTypeEnm> {
+  static constexpr std::string_view Noun = "amplitude type";
+  static constexpr EnumEntry<kamC_AmplitudeTypeEnm> Entries[] = {
+      {kamC_TabularType, "", "tabular"},
+      {kamC_EquallySpacedType, "", "equallySpaced"},
+      {kamC_PeriodicType, "", "periodic"},
+      {kamC_ModulatedType, "", "modulated"},
+      {kamC_DecayType, "", "decay"},
+      {kamC_SmoothStepType, "", "smoothStep"},
+      {kamC_SolutionDependentType, "", "solutionDependent"},
+      {kamC_BubbleType, "", "bubble"},
+      {kamC_PsdDefinitionType, "", "psdDefinition"},
+      {kamC_SpectrumType, "", "spectrum"},
+      {kamC_UserType, "", "user"},
+  };
+};
+
+} // namespace keydeck
+
 /// The base of the amplitude records.
 class kamC_Amplitude {
 public:
@@ -35,8 +72,12 @@ public:
   /// must hold an even count of numbers, and times must not decrease.
   virtual std::optional<keydeck::RecordFault> CheckData() const { return std::nullopt; }
 
-  template <class V> void Fields(V& v) { v("timeSpan", timeSpan, StepTime); }
+  template <class V> void Fields(V& v) {
+    v("type", type);
+    v("timeSpan", timeSpan, StepTime);
+  }
 
+  kamC_AmplitudeTypeEnm type = kamC_TabularType; ///< the kind, which is the class
   TimeSpanEnm timeSpan = StepTime;
 };
 
@@ -51,13 +92,17 @@ template <> struct EnumTable<kamC_Amplitude::TimeSpanEnm> {
   };
 };
 
-/// The common part of every amplitude record: its type id and copy.
-template <class Record, unsigned Id> class AmplitudeKind : public kamC_Amplitude {
+/// The common part of every amplitude class: its kind, type id and copy.
+template <class Record, kamC_AmplitudeTypeEnm Type> class AmplitudeKind : public kamC_Amplitude {
 public:
+  static constexpr kamC_AmplitudeTypeEnm Kind = Type;
   kamC_Amplitude* Copy() const override { return new Record(static_cast<const Record&>(*this)); }
-  static constexpr unsigned TypeId() { return Id; }
-  static bool IsKindOf(unsigned id) { return id == Id; }
-  unsigned DynTypeId() const override { return Id; }
+  static constexpr unsigned TypeId() { return Type; }
+  static bool IsKindOf(unsigned id) { return id == Type; }
+  unsigned DynTypeId() const override { return Type; }
+
+protected:
+  AmplitudeKind() { type = Type; }
 };
 
 /// The fault of a flat table of pairs of `what` (odd length), and when
@@ -68,8 +113,7 @@ std::optional<RecordFault> PairTableFault(const cow_List<double>& data, const ch
 } // namespace keydeck
 
 /// Values at given times: "*Amplitude" with its table.
-class kamC_Tabular
-    : public keydeck::AmplitudeKind<kamC_Tabular, keydeck::TypeIds::TabularAmplitude> {
+class kamC_Tabular : public keydeck::AmplitudeKind<kamC_Tabular, kamC_TabularType> {
 public:
   std::optional<keydeck::RecordFault> CheckData() const override;
   template <class V> void Fields(V& v) {
@@ -86,7 +130,7 @@ public:
 
 /// Values at times a fixed interval apart.
 class kamC_EquallySpaced
-    : public keydeck::AmplitudeKind<kamC_EquallySpaced, keydeck::TypeIds::EquallySpacedAmplitude> {
+    : public keydeck::AmplitudeKind<kamC_EquallySpaced, kamC_EquallySpacedType> {
 public:
   template <class V> void Fields(V& v) {
     kamC_Amplitude::Fields(v);
@@ -105,8 +149,7 @@ public:
 };
 
 /// A Fourier series: a constant and terms of a circular frequency.
-class kamC_Periodic
-    : public keydeck::AmplitudeKind<kamC_Periodic, keydeck::TypeIds::PeriodicAmplitude> {
+class kamC_Periodic : public keydeck::AmplitudeKind<kamC_Periodic, kamC_PeriodicType> {
 public:
   std::optional<keydeck::RecordFault> CheckData() const override;
   template <class V> void Fields(V& v) {
@@ -124,8 +167,7 @@ public:
 };
 
 /// A sine wave whose amplitude is a sine wave itself.
-class kamC_Modulated
-    : public keydeck::AmplitudeKind<kamC_Modulated, keydeck::TypeIds::ModulatedAmplitude> {
+class kamC_Modulated : public keydeck::AmplitudeKind<kamC_Modulated, kamC_ModulatedType> {
 public:
   template <class V> void Fields(V& v) {
     kamC_Amplitude::Fields(v);
@@ -144,7 +186,7 @@ public:
 };
 
 /// An exponential decay from a start time.
-class kamC_Decay : public keydeck::AmplitudeKind<kamC_Decay, keydeck::TypeIds::DecayAmplitude> {
+class kamC_Decay : public keydeck::AmplitudeKind<kamC_Decay, kamC_DecayType> {
 public:
   template <class V> void Fields(V& v) {
     kamC_Amplitude::Fields(v);
@@ -162,8 +204,7 @@ public:
 
 /// An amplitude that the solver adapts to the solution, within bounds.
 class kamC_SolutionDependent
-    : public keydeck::AmplitudeKind<kamC_SolutionDependent,
-                                    keydeck::TypeIds::SolutionDependentAmplitude> {
+    : public keydeck::AmplitudeKind<kamC_SolutionDependent, kamC_SolutionDependentType> {
 public:
   template <class V> void Fields(V& v) {
     kamC_Amplitude::Fields(v);
@@ -178,8 +219,7 @@ public:
 };
 
 /// Values at given times, joined by smooth steps.
-class kamC_SmoothStep
-    : public keydeck::AmplitudeKind<kamC_SmoothStep, keydeck::TypeIds::SmoothStepAmplitude> {
+class kamC_SmoothStep : public keydeck::AmplitudeKind<kamC_SmoothStep, kamC_SmoothStepType> {
 public:
   std::optional<keydeck::RecordFault> CheckData() const override;
   template <class V> void Fields(V& v) {

@@ -43,7 +43,11 @@ inline constexpr unsigned ModulatedAmplitude = 0x2440005;
 inline constexpr unsigned PeriodicAmplitude = 0x2440006;
 inline constexpr unsigned SolutionDependentAmplitude = 0x2440007;
 inline constexpr unsigned TabularAmplitude = 0x2440008;
+inline constexpr unsigned PsdDefinitionAmplitude = 0x2440009;
+inline constexpr unsigned SpectrumAmplitude = 0x244000A;
 inline constexpr unsigned SmoothStepAmplitude = 0x244000B;
+inline constexpr unsigned BubbleAmplitude = 0x244000C;
+inline constexpr unsigned UserAmplitude = 0x244000D;
 } // namespace TypeIds
 
 /// A problem inside one record that only the record's own checks find:

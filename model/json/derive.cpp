@@ -728,6 +728,15 @@ private:
   LoadErrors& errors_;
 };
 
+// Tables of pairs hold pairs, and times do not run backwards.
+void CheckAmplitudes(std::string_view modelPath, const ddb_Model& model, LoadErrors& errors) {
+  for (const auto& [name, amplitude] : model.amplitudes())
+    if (const std::optional<RecordFault> fault = amplitude->CheckData())
+      errors.Add(std::string(modelPath) + "/amplitudes/" + std::string(name.View()) + "/" +
+                     fault->where,
+                 fault->what);
+}
+
 void DeriveStepStates(std::string_view modelPath, ddb_Model& model, LoadErrors& errors) {
   StepStateDeriver deriver(modelPath, model.step().container(), errors);
   model.Fields(deriver);
@@ -759,6 +768,7 @@ void DeriveModel(std::string_view modelPath, ddb_Model& model, LoadErrors& error
   }
   DeriveInstances(modelPath, model, errors);
   DeriveAssemblySets(modelPath, model, partLabels, errors);
+  CheckAmplitudes(modelPath, model, errors);
   DeriveStepStates(modelPath, model, errors);
 }
 

@@ -101,7 +101,8 @@ TEST(AmplitudeCards, DefinitionsOfOneLine) {
 }
 
 // A record of a kind that has no definition of its own in the deck.
-class UnwrittenAmplitude : public keydeck::AmplitudeKind<UnwrittenAmplitude, 0x2440009> {
+class UnwrittenAmplitude
+    : public keydeck::AmplitudeKind<UnwrittenAmplitude, kamC_PsdDefinitionType> {
 public:
   template <class V> void Fields(V& v) { kamC_Amplitude::Fields(v); }
 };
