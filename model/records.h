@@ -7,6 +7,7 @@
 #include <source_location>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 namespace keydeck {
 
@@ -96,6 +97,69 @@ constexpr const EnumEntry<E>* FindEnumEntryByFileText(std::string_view word) {
     if (entry.fileText == word)
       return &entry;
   return nullptr;
+}
+
+/// The classes of a family of polymorphic records, in the order the schema
+/// lists them.
+template <class... Kinds> struct KindList {};
+
+/// The family of polymorphic records of base `Base`, specialised beside the
+/// family with
+///
+///     static constexpr std::string_view Field = "procedure"; // the word that picks the class
+///     using Types = KindList<kprC_StaticStep, ...>;
+///
+/// Each class K of `Types` declares `static constexpr auto Kind` (an
+/// enumerator of a tabled enumeration, the same one for the whole family) and
+/// declares the field `Field` in its own `Fields`, so that the dumper and the
+/// schema write it like any other field. An enumerator that no class has yet
+/// is a kind the model file cannot use yet.
+template <class Base> struct RecordKinds;
+
+/// A base of polymorphic records: one with a `RecordKinds`.
+template <class Base>
+concept PolymorphicBase = requires {
+  RecordKinds<Base>::Field;
+  typename RecordKinds<Base>::Types;
+};
+
+template <class List> struct KindListTraits;
+template <class First, class... Rest> struct KindListTraits<KindList<First, Rest...>> {
+  using Enum = std::remove_cv_t<decltype(First::Kind)>;
+
+  template <class F> static bool VisitKind(Enum kind, F& visit) {
+    return ((kind == First::Kind ? (visit(std::type_identity<First>()), true) : false) || ... ||
+            (kind == Rest::Kind ? (visit(std::type_identity<Rest>()), true) : false));
+  }
+  template <class F> static bool VisitTypeId(unsigned id, F& visit) {
+    return ((id == First::TypeId() ? (visit(std::type_identity<First>()), true) : false) || ... ||
+            (id == Rest::TypeId() ? (visit(std::type_identity<Rest>()), true) : false));
+  }
+  template <class F> static void VisitAll(F& visit) {
+    visit(std::type_identity<First>());
+    (visit(std::type_identity<Rest>()), ...);
+  }
+};
+
+/// The enumeration whose values pick the class of a record of `Base`.
+template <PolymorphicBase Base>
+using KindEnm = typename KindListTraits<typename RecordKinds<Base>::Types>::Enum;
+
+/// Calls `visit(std::type_identity<K>())` for the class K of `Base` whose
+/// `Kind` is `kind`; false, without a call, when no class has that kind.
+template <PolymorphicBase Base, class F> bool VisitKindClass(KindEnm<Base> kind, F&& visit) {
+  return KindListTraits<typename RecordKinds<Base>::Types>::VisitKind(kind, visit);
+}
+
+/// The same for the class whose type id is `id`.
+template <PolymorphicBase Base, class F> bool VisitTypeIdClass(unsigned id, F&& visit) {
+  return KindListTraits<typename RecordKinds<Base>::Types>::VisitTypeId(id, visit);
+}
+
+/// Calls `visit(std::type_identity<K>())` for every class of `Base`, in the
+/// order of its `KindList`.
+template <PolymorphicBase Base, class F> void VisitKindClasses(F&& visit) {
+  KindListTraits<typename RecordKinds<Base>::Types>::VisitAll(visit);
 }
 
 /// Narrows a record to `T` after checking its type id; a record of any

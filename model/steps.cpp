@@ -3,6 +3,10 @@
 #include <string>
 #include <utility>
 
+bool kprC_AnalysisStep::IsKindOf(unsigned id) {
+  return id == TypeId() || keydeck::FindEnumEntry(static_cast<kprC_ProcedureEnm>(id)) != nullptr;
+}
+
 bool kprC_AnalysisStep::Perturbation() const {
   switch (procedure) {
   case kprC_Buckle:
@@ -13,10 +17,10 @@ bool kprC_AnalysisStep::Perturbation() const {
   case kprC_StaticLinearPerturbation:
   case kprC_SteadyStateDirect:
   case kprC_SteadyStateModal:
-  case kprC_SubspaceDynamics:
-  case kprC_ComplexFrequency:
   case kprC_SteadyStateSubspace:
     return true;
+  case kprC_ComplexFrequency:
+  case kprC_SubspaceDynamics:
   case kprC_Anneal:
   case kprC_CoupledTempDisplacement:
   case kprC_CoupledThermalElectric:

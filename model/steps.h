@@ -96,7 +96,9 @@ public:
   virtual ~kprC_Step() = default;
   virtual kprC_Step* Copy() const = 0;
   virtual unsigned DynTypeId() const = 0;
-  /// True for a linear-perturbation procedure.
+  /// True for a linear-perturbation procedure: buckle, frequency, modal dynamics, random
+  /// response, response spectrum, static linear perturbation and the three steady-state
+  /// procedures. Subspace dynamics and complex frequency are not among them.
   virtual bool Perturbation() const { return false; }
   /// True for a procedure of the explicit solver.
   virtual bool isExplicit() const { return false; }
@@ -115,26 +117,80 @@ public:
   unsigned DynTypeId() const override { return TypeId(); }
 };
 
-/// An analysis step: a procedure and its load cases.
+/// An analysis step: a procedure and its load cases. Each procedure is a
+/// class of its own (`kprC_StaticStep`, ...), picked by the "procedure" word
+/// of the model file; `ProcedureType()` reports the procedure the record
+/// says, and `DynTypeId()` the class.
 class kprC_AnalysisStep : public kprC_Step {
 public:
-  kprC_Step* Copy() const override { return new kprC_AnalysisStep(*this); }
   static constexpr unsigned TypeId() { return keydeck::TypeIds::AnalysisStep; }
-  static bool IsKindOf(unsigned id) { return id == TypeId(); }
-  unsigned DynTypeId() const override { return TypeId(); }
+  /// Accepts the id of every procedure class, which is its procedure number.
+  static bool IsKindOf(unsigned id);
   unsigned ProcedureType() const { return procedure; }
   bool Perturbation() const override;
   bool isExplicit() const override;
 
   template <class V> void Fields(V& v) {
-    kprC_Step::Fields(v);
     v("procedure", procedure);
+    kprC_Step::Fields(v);
     v("loadCases", loadCases, mdl_MapString2ObjCow<klcC_LoadCase>());
   }
 
   kprC_ProcedureEnm procedure = kprC_Static;
   mdl_MapString2ObjCow<klcC_LoadCase> loadCases;
 };
+
+/// What every procedure class shares: its kind, its type id (the procedure
+/// number) and its copy. `Self` is the procedure class.
+template <class Self, kprC_ProcedureEnm Procedure>
+class kprC_ProcedureStep : public kprC_AnalysisStep {
+public:
+  static constexpr kprC_ProcedureEnm Kind = Procedure;
+  static constexpr unsigned TypeId() { return Procedure; }
+  static bool IsKindOf(unsigned id) { return id == TypeId(); }
+  unsigned DynTypeId() const override { return TypeId(); }
+  kprC_Step* Copy() const override { return new Self(static_cast<const Self&>(*this)); }
+
+protected:
+  kprC_ProcedureStep() { procedure = Procedure; }
+};
+
+class kprC_AnnealStep : public kprC_ProcedureStep<kprC_AnnealStep, kprC_Anneal> {};
+class kprC_CoupledTempDisplacementStep
+    : public kprC_ProcedureStep<kprC_CoupledTempDisplacementStep, kprC_CoupledTempDisplacement> {};
+class kprC_CoupledThermalElectricStep
+    : public kprC_ProcedureStep<kprC_CoupledThermalElectricStep, kprC_CoupledThermalElectric> {};
+class kprC_ExplicitDynamicsStep
+    : public kprC_ProcedureStep<kprC_ExplicitDynamicsStep, kprC_ExplicitDynamics> {};
+class kprC_GeostaticStep : public kprC_ProcedureStep<kprC_GeostaticStep, kprC_Geostatic> {};
+class kprC_HeatTransferStep : public kprC_ProcedureStep<kprC_HeatTransferStep, kprC_HeatTransfer> {
+};
+class kprC_ImplicitDynamicsStep
+    : public kprC_ProcedureStep<kprC_ImplicitDynamicsStep, kprC_ImplicitDynamics> {};
+class kprC_MassDiffusionStep
+    : public kprC_ProcedureStep<kprC_MassDiffusionStep, kprC_MassDiffusion> {};
+class kprC_SoilsStep : public kprC_ProcedureStep<kprC_SoilsStep, kprC_Soils> {};
+class kprC_StaticStep : public kprC_ProcedureStep<kprC_StaticStep, kprC_Static> {};
+class kprC_StaticRiksStep : public kprC_ProcedureStep<kprC_StaticRiksStep, kprC_StaticRiks> {};
+class kprC_ViscoStep : public kprC_ProcedureStep<kprC_ViscoStep, kprC_Visco> {};
+class kprC_TempDisplacementDynamicsStep
+    : public kprC_ProcedureStep<kprC_TempDisplacementDynamicsStep, kprC_TempDisplacementDynamics> {
+};
+
+namespace keydeck {
+
+/// The procedure classes a model file can use; a procedure without a class
+/// here is refused as not supported yet.
+template <> struct RecordKinds<kprC_AnalysisStep> {
+  static constexpr std::string_view Field = "procedure";
+  using Types =
+      KindList<kprC_AnnealStep, kprC_CoupledTempDisplacementStep, kprC_CoupledThermalElectricStep,
+               kprC_ExplicitDynamicsStep, kprC_GeostaticStep, kprC_HeatTransferStep,
+               kprC_ImplicitDynamicsStep, kprC_MassDiffusionStep, kprC_SoilsStep, kprC_StaticStep,
+               kprC_StaticRiksStep, kprC_ViscoStep, kprC_TempDisplacementDynamicsStep>;
+};
+
+} // namespace keydeck
 
 /// The steps of a model in job order, the initial step first.
 class kprC_StepContainer {

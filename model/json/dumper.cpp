@@ -133,7 +133,10 @@ public:
     out_.OpenObject();
     for (const auto& [name, handle] : records) {
       out_.Key(name.View());
-      Write(RecordCast<typename MapEntryClass<Base>::Type>(*handle));
+      if constexpr (PolymorphicBase<Base>)
+        WriteKind<Base>(*handle, [&](const auto& record) { Write(record); });
+      else
+        Write(RecordCast<typename MapEntryClass<Base>::Type>(*handle));
     }
     out_.CloseObject();
   }
@@ -141,10 +144,12 @@ public:
   void Write(const kprC_StepContainer& steps) {
     out_.OpenArray(/*oneLine=*/false);
     for (int i = 0; i < steps.Size(); ++i) {
+      const cow_String& name = steps.NameAt(i);
       if (i == 0)
-        WriteStep<kprC_InitialStep>(steps.NameAt(i), steps.StepAt(i));
+        WriteStep(name, RecordCast<kprC_InitialStep>(steps.StepAt(i)));
       else
-        WriteStep<kprC_AnalysisStep>(steps.NameAt(i), steps.StepAt(i));
+        WriteKind<kprC_AnalysisStep>(steps.StepAt(i),
+                                     [&](const auto& step) { WriteStep(name, step); });
     }
     out_.CloseArray();
   }
@@ -174,8 +179,19 @@ private:
     Dumper& dumper_;
   };
 
-  template <class Step> void WriteStep(const cow_String& name, const kprC_Step& step) {
-    Write(NamedStep<Step>{name, RecordCast<Step>(step)});
+  template <class Step> void WriteStep(const cow_String& name, const Step& step) {
+    Write(NamedStep<Step>{name, step});
+  }
+
+  // Calls `write` with the record narrowed to its class in the family `Base`;
+  // only a record of a class the family lists can be in a model.
+  template <PolymorphicBase Base, class Record, class F>
+  void WriteKind(const Record& record, F&& write) {
+    const bool known = VisitTypeIdClass<Base>(record.DynTypeId(), [&](auto type) {
+      write(RecordCast<typename decltype(type)::type>(record));
+    });
+    assert(known && "a record of a class that its family does not list");
+    (void)known;
   }
 
   JsonText& out_;

@@ -32,9 +32,10 @@ concept FieldRecord = requires(R& record, AnyFieldVisitor& visitor) {
   record.Fields(visitor);
 };
 
-/// The class to build for an entry of a map of polymorphic records of base
-/// `Base`. Every entry of a map is of that one class so far; a map whose
-/// entries differ will read a "type" word here.
+/// The class to build for an entry of a map of records of base `Base` whose
+/// entries are all of one class. A map whose entries differ has a
+/// `RecordKinds<Base>` instead (model/records.h), and the discriminating word
+/// of each entry picks its class.
 template <class Base> struct MapEntryClass;
 template <> struct MapEntryClass<ddb_BaseInstance> { using Type = ddb_PartInstance; };
 template <> struct MapEntryClass<klcC_LoadCase> { using Type = klcC_LoadCase; };

@@ -434,12 +434,19 @@ private:
   bool AcceptName(std::string_view key, bool taken);
   template <FieldRecord R> void Read(od::value value, cow_Btree<cow_String, R>& out);
   template <class Base> void Read(od::value value, mdl_MapString2ObjCow<Base>& out);
+  template <class Base, class Keep> void ReadEntry(od::value value, Keep&& keep);
+  template <PolymorphicBase Base, class ReadKind>
+  void ReadPolymorphic(od::value value, ReadKind&& read);
+  template <PolymorphicBase Base> bool ReadKindWord(od::object& object, KindEnm<Base>& kind);
   void Read(od::value value, kprC_StepContainer& out);
-  template <class Step> void ReadStep(od::value value, std::size_t index, kprC_StepContainer& out);
+  template <class Step>
+  void ReadStep(od::object& object, std::type_identity<Step>, kprC_StepContainer& out);
   template <FieldRecord R> void Read(od::value value, R& out) {
     od::object object;
-    if (!GetObject(value, object))
-      return;
+    if (GetObject(value, object))
+      ReadObject(object, out);
+  }
+  template <FieldRecord R> void ReadObject(od::object& object, R& out) {
     const int before = errors_.Count();
     ReadMembers(object, out);
     if constexpr (ColumnCheckedRecord<R>) {
@@ -1024,10 +1031,73 @@ template <class Base> void Reader::Read(od::value value, mdl_MapString2ObjCow<Ba
     if (!AcceptName(key, out.IsMember(name)))
       return;
     PathScope scope(*this, key);
-    typename MapEntryClass<Base>::Type record;
-    Read(item, record);
-    out.Insert(name, static_cast<const Base&>(record));
+    ReadEntry<Base>(item, [&](const Base& record) { out.Insert(name, record); });
   });
+}
+
+// Reads one entry of a map of records of base `Base` and hands it to `keep`.
+template <class Base, class Keep> void Reader::ReadEntry(od::value value, Keep&& keep) {
+  if constexpr (PolymorphicBase<Base>) {
+    ReadPolymorphic<Base>(value, [&](od::object& object, auto kind) {
+      typename decltype(kind)::type record;
+      ReadObject(object, record);
+      keep(static_cast<const Base&>(record));
+    });
+  } else {
+    typename MapEntryClass<Base>::Type record;
+    Read(value, record);
+    keep(static_cast<const Base&>(record));
+  }
+}
+
+// Reads a record of a polymorphic family: the word of its discriminating
+// field picks the class K, then `read(object, std::type_identity<K>())` reads
+// the object as a K.
+template <PolymorphicBase Base, class ReadKind>
+void Reader::ReadPolymorphic(od::value value, ReadKind&& read) {
+  od::object object;
+  if (!GetObject(value, object))
+    return;
+  KindEnm<Base> kind{};
+  if (!ReadKindWord<Base>(object, kind))
+    return;
+  if (VisitKindClass<Base>(kind, [&](auto type) { read(object, type); }))
+    return;
+  using Table = EnumTable<KindEnm<Base>>;
+  PathScope scope(*this, RecordKinds<Base>::Field);
+  Error(std::string(Table::Noun) + " " + QuotedJson(FindEnumEntry(kind)->fileText) +
+        " is not supported yet");
+}
+
+// Looks ahead for the discriminating field of a record of `Base` and reads
+// its word; the object is then rewound for the record's own walk. False,
+// with the message, when the field is missing or its word is not one of the
+// family's enumeration.
+template <PolymorphicBase Base> bool Reader::ReadKindWord(od::object& object, KindEnm<Base>& kind) {
+  constexpr std::string_view field = RecordKinds<Base>::Field;
+  od::value value;
+  const simdjson::error_code error = object.find_field_unordered(field).get(value);
+  if (error == simdjson::NO_SUCH_FIELD) {
+    Error("missing field " + QuotedJson(field));
+    return false;
+  }
+  if (error) {
+    Fail(error);
+    return false;
+  }
+  const int before = errors_.Count();
+  {
+    PathScope scope(*this, field);
+    Read(value, kind);
+  }
+  if (errors_.Count() != before || Stopped())
+    return false;
+  bool empty = false;
+  if (const simdjson::error_code rewind = object.reset().get(empty)) {
+    Fail(rewind);
+    return false;
+  }
+  return true;
 }
 
 void Reader::Read(od::value value, kprC_StepContainer& out) {
@@ -1035,19 +1105,23 @@ void Reader::Read(od::value value, kprC_StepContainer& out) {
   if (!GetArray(value, array))
     return;
   ForEachItem(array, [&](od::value item, std::size_t index) {
-    if (index == 0)
-      ReadStep<kprC_InitialStep>(item, index, out);
-    else
-      ReadStep<kprC_AnalysisStep>(item, index, out);
+    PathScope scope(*this, index);
+    if (index > 0) {
+      ReadPolymorphic<kprC_AnalysisStep>(
+          item, [&](od::object& object, auto kind) { ReadStep(object, kind, out); });
+      return;
+    }
+    od::object object;
+    if (GetObject(item, object))
+      ReadStep(object, std::type_identity<kprC_InitialStep>(), out);
   });
 }
 
 template <class Step>
-void Reader::ReadStep(od::value value, std::size_t index, kprC_StepContainer& out) {
-  PathScope scope(*this, index);
+void Reader::ReadStep(od::object& object, std::type_identity<Step>, kprC_StepContainer& out) {
   NamedStep<Step> step;
   const int before = errors_.Count();
-  Read(value, step);
+  ReadObject(object, step);
   if (errors_.Count() != before)
     return;
   std::string fault = NameFault(step.name.View());

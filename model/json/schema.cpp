@@ -99,7 +99,15 @@ public:
   template <FieldRecord R> void Body(const cow_List<R>&) { ArrayOf(R(), -1, -1); }
   template <FieldRecord R> void Body(const cow_Btree<cow_String, R>&) { MapOf(R()); }
   template <class Base> void Body(const mdl_MapString2ObjCow<Base>&) {
-    MapOf(typename MapEntryClass<Base>::Type());
+    if constexpr (PolymorphicBase<Base>) {
+      Type("object");
+      out_.Key("additionalProperties");
+      out_.OpenObject();
+      KindsBody<Base>([](auto type) { return typename decltype(type)::type(); });
+      out_.CloseObject();
+    } else {
+      MapOf(typename MapEntryClass<Base>::Type());
+    }
   }
   void Body(const kprC_StepContainer&) {
     Type("array");
@@ -108,13 +116,17 @@ public:
     Schema(NamedStep<kprC_InitialStep>());
     out_.CloseArray();
     out_.Key("items");
-    Schema(NamedStep<kprC_AnalysisStep>());
+    out_.OpenObject();
+    KindsBody<kprC_AnalysisStep>(
+        [](auto type) { return NamedStep<typename decltype(type)::type>(); });
+    out_.CloseObject();
   }
   template <FieldRecord R> void Body(R& record) {
     Type("object");
     out_.Key("properties");
     out_.OpenObject();
-    PropertyWriter properties(*this);
+    PropertyWriter properties(*this, kind_);
+    kind_ = {};
     record.Fields(properties);
     DroppedProperties(HolderOf<R>);
     out_.CloseObject();
@@ -132,15 +144,40 @@ public:
   }
 
 private:
+  // The discriminating field of a record of a polymorphic family and the
+  // word that names the record's class; empty for any other record.
+  struct KindWord {
+    std::string_view field;
+    std::string_view word;
+  };
+
+  // A record of a polymorphic family: one of its classes, each told by the
+  // word of its discriminating field. `make(std::type_identity<K>())` gives
+  // the record to describe for class K.
+  template <PolymorphicBase Base, class Make> void KindsBody(Make make) {
+    out_.Key("oneOf");
+    out_.OpenArray(/*oneLine=*/false);
+    VisitKindClasses<Base>([&](auto type) {
+      using K = typename decltype(type)::type;
+      kind_ = {RecordKinds<Base>::Field, FindEnumEntry(K::Kind)->fileText};
+      Schema(make(type));
+    });
+    out_.CloseArray();
+  }
+
   class PropertyWriter {
   public:
-    explicit PropertyWriter(SchemaWriter& writer) : writer_(writer) {}
+    PropertyWriter(SchemaWriter& writer, KindWord kind) : writer_(writer), kind_(kind) {}
     template <class M> void operator()(const char* name, M& member) {
       writer_.out_.Key(name);
+      if (!kind_.field.empty() && kind_.field == name)
+        return writer_.Const(kind_.word);
       writer_.Schema(member);
     }
     template <class M, class D> void operator()(const char* name, M& member, const D& value) {
       writer_.out_.Key(name);
+      if (!kind_.field.empty() && kind_.field == name)
+        return writer_.Const(kind_.word);
       writer_.out_.OpenObject();
       writer_.Body(member);
       const M fallback = value;
@@ -150,6 +187,7 @@ private:
 
   private:
     SchemaWriter& writer_;
+    KindWord kind_;
   };
 
   struct RequiredNames {
@@ -166,6 +204,12 @@ private:
       out_.Key(option.key);
       EmptyObject();
     }
+  }
+  void Const(std::string_view word) {
+    out_.OpenObject();
+    out_.Key("const");
+    out_.String(word);
+    out_.CloseObject();
   }
   void Type(std::string_view type) {
     out_.Key("type");
@@ -235,6 +279,7 @@ private:
   }
 
   JsonText& out_;
+  KindWord kind_; // for the next record's properties only
 };
 
 } // namespace

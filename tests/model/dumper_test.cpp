@@ -58,7 +58,7 @@ const char* const FullModel = R"({"format": "keydeck-model", "version": 1, "mode
     "steps": [{"name": "Initial", "solverInput": "*initial text"},
               {"name": "Load", "procedure": "staticRiks", "solverInput": "*step text",
                "loadCases": {"LC-2": {}, "LC-1": {}}},
-              {"name": "Modes", "procedure": "frequency"}]},
+              {"name": "Modes", "procedure": "heatTransfer"}]},
   "Other": {}}})";
 
 TEST(Dumper, DumpAndLoadIsAFixedPoint) {

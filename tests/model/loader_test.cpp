@@ -267,7 +267,7 @@ TEST(Loader, StepMessages) {
        {"models/M/steps/1/procedure: expected a string, found a number"}},
       {"duplicate step name",
        WithSteps(R"([{"name": "Initial"}, {"name": "S", "procedure": "static"},
-                     {"name": "S", "procedure": "frequency"}, {"name": "Initial", "procedure": "static"}])"),
+                     {"name": "S", "procedure": "visco"}, {"name": "Initial", "procedure": "static"}])"),
        {R"(models/M/steps/2/name: duplicate step name "S")",
         R"(models/M/steps/3/name: duplicate step name "Initial")"}},
       {"step not an object",
@@ -451,7 +451,7 @@ TEST(Loader, KeepsRawTextVerbatim) {
 TEST(Loader, StepsKeepFileOrderAndLoadCasesTheirNames) {
   std::vector<std::string> warnings;
   const odb_Odb odb = LoadModelText(WithSteps(R"([{"name": "Initial", "solverInput": "*initial"},
-                    {"name": "Zeta", "procedure": "frequency", "loadCases": {"b": {}, "B": {}, "a": {}}},
+                    {"name": "Zeta", "procedure": "geostatic", "loadCases": {"b": {}, "B": {}, "a": {}}},
                     {"name": "Alpha", "procedure": "explicitDynamics"}])"),
                                     warnings);
   const kprC_StepContainer& steps = OnlyModel(odb).step().container();
@@ -462,7 +462,7 @@ TEST(Loader, StepsKeepFileOrderAndLoadCasesTheirNames) {
   EXPECT_EQ(steps.StepAt(0).DynTypeId(), kprC_InitialStep::TypeId());
   EXPECT_EQ(steps.StepAt(0).solverInput, "*initial");
   const auto& zeta = RecordCast<kprC_AnalysisStep>(steps.StepAt(1));
-  EXPECT_EQ(zeta.ProcedureType(), kprC_Frequency);
+  EXPECT_EQ(zeta.ProcedureType(), kprC_Geostatic);
   EXPECT_EQ(zeta.loadCases.Keys(), (cow_List<cow_String>{"B", "a", "b"}));
   EXPECT_EQ(RecordCast<kprC_AnalysisStep>(steps.StepAt(2)).ProcedureType(), kprC_ExplicitDynamics);
   EXPECT_EQ(warnings,
