@@ -19,7 +19,7 @@ std::optional<RecordFault> PairTableFault(const cow_List<double>& data, const ch
   if (data.Size() % 2 != 0) {
     std::string message = "expected pairs of ";
     message.append(what).append(", found ").append(std::to_string(data.Size()));
-    return RecordFault{"data", message.append(" numbers")};
+    return RecordFault{"data", message.append(data.Size() == 1 ? " number" : " numbers")};
   }
   for (int i = 2; timed && i < data.Size(); i += 2) {
     if (data.ConstGet(i) >= data.ConstGet(i - 2))

@@ -229,3 +229,15 @@ public:
 
   cow_List<double> data; ///< time, value, time, value, ...
 };
+
+namespace keydeck {
+
+/// The amplitude classes a model file can use; the other kinds are refused as
+/// not supported yet.
+template <> struct RecordKinds<kamC_Amplitude> {
+  static constexpr std::string_view Field = "type";
+  using Types = KindList<kamC_Tabular, kamC_EquallySpaced, kamC_Periodic, kamC_Modulated,
+                         kamC_Decay, kamC_SmoothStep, kamC_SolutionDependent>;
+};
+
+} // namespace keydeck

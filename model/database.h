@@ -178,6 +178,7 @@ public:
     v("parts", parts_.parts_, cow_Btree<cow_String, ddb_Part>());
     v("assembly", assembly_, ddb_Assembly());
     v("materials", materials_, mdl_MapString2ObjCow<kmaC_Material>());
+    v("amplitudes", amplitudes_, mdl_MapString2ObjCow<kamC_Amplitude>());
     v("steps", steps_.steps, kprC_StepContainer());
     v("topLevelSolverInput", topLevelSolverInput_, cow_String());
     v("solverInput", solverInput_, cow_String());

@@ -59,6 +59,13 @@ public:
     out_.CloseArray();
   }
 
+  void Write(const cow_List<double>& numbers) {
+    out_.OpenArray(/*oneLine=*/true);
+    for (const double number : numbers)
+      out_.Real(number);
+    out_.CloseArray();
+  }
+
   void Write(const uti_CoordCont3D& points) {
     out_.OpenArray(/*oneLine=*/false);
     for (const uti_Coord3D& point : points) {

@@ -403,6 +403,7 @@ private:
   template <TabledEnum E> void Read(od::value value, E& out);
   void Read(od::value value, FileVersion& out);
   void Read(od::value value, cow_List<int>& out);
+  void Read(od::value value, cow_List<double>& out);
   void Read(od::value value, uti_CoordCont3D& out);
   /// What the messages of `ReadRows` call a row that is empty or uneven.
   struct RowWords {
@@ -769,6 +770,20 @@ void Reader::Read(od::value value, cow_List<int>& out) {
   ForEachItem(array, [&](od::value item, std::size_t index) {
     int number = 0;
     ReadInt(item, number, index);
+    out.Append(number);
+  });
+}
+
+void Reader::Read(od::value value, cow_List<double>& out) {
+  od::array array;
+  int count = 0;
+  if (!GetArray(value, array) || !CountItems(array, count))
+    return;
+  out = cow_List<double>::WithCapacity(count);
+  ForEachItem(array, [&](od::value item, std::size_t index) {
+    double number = 0;
+    if (const simdjson::error_code error = item.get_double().get(number))
+      BadReal(item, error, index);
     out.Append(number);
   });
 }

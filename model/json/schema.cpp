@@ -54,6 +54,7 @@ public:
     out_.CloseArray();
   }
   void Body(const cow_List<int>&) { ArrayOf(0, /*minItems=*/-1, /*maxItems=*/-1); }
+  void Body(const cow_List<double>&) { ArrayOf(0.0, /*minItems=*/-1, /*maxItems=*/-1); }
   template <class T, std::size_t N> void Body(const std::array<T, N>&) {
     ArrayOf(T(), static_cast<int>(N), static_cast<int>(N));
   }
