@@ -31,7 +31,7 @@ kprC_StepContainer Steps(std::initializer_list<const char*> analysisSteps) {
   kprC_StepContainer steps;
   steps.Append("Initial", kprC_StepContainer::Handle(kprC_InitialStep()));
   for (const char* name : analysisSteps)
-    steps.Append(name, kprC_StepContainer::Handle(kprC_AnalysisStep()));
+    steps.Append(name, kprC_StepContainer::Handle(kprC_StaticStep()));
   return steps;
 }
 

@@ -57,7 +57,7 @@ kprC_StepContainer Steps(int analysisSteps) {
   steps.Append("Initial", kprC_StepContainer::Handle(kprC_InitialStep()));
   for (int i = 1; i <= analysisSteps; ++i)
     steps.Append(("Step-" + std::to_string(i)).c_str(),
-                 kprC_StepContainer::Handle(kprC_AnalysisStep()));
+                 kprC_StepContainer::Handle(kprC_StaticStep()));
   return steps;
 }
 
