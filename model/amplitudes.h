@@ -4,7 +4,6 @@
 #include "model/records.h"
 
 #include <optional>
-#include <string>
 
 // Amplitudes: the time (or frequency) functions that conditions and steps
 // refer to by name. Tables are flat lists of numbers in the deck's order:

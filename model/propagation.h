@@ -8,7 +8,6 @@
 #include "model/records.h"
 #include "model/steps.h"
 
-#include <cassert>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -165,6 +164,7 @@ public:
   /// The state in force in `step`: the attributes set in that step in state
   /// 1, those set earlier in state 2, those never set in state 0. Before the
   /// creating step (or for a step the model lacks) every attribute is unset.
+  /// Asked before `DeriveStates`, it raises.
   const State& ConstGetState(const cow_String& step) const;
   /// The same, with the step whose entry set it.
   kprC_PropagatingState<State> ConstGetStateQuad(const cow_String& step) const;
