@@ -48,3 +48,16 @@ void gsl_Matrix::GetAxisRotation(gsl_Point& point, gsl_Vector& axis, double& ang
       a[i] = r[i][k] / (2 * a[k]);
   axis = gsl_Vector{a[0], a[1], a[2]}.Normalized();
 }
+
+gsl_Vector gsl_Matrix::TransformVector(const gsl_Vector& vector) const {
+  const double(&r)[3][3] = rotation_;
+  return {r[0][0] * vector.x + r[0][1] * vector.y + r[0][2] * vector.z,
+          r[1][0] * vector.x + r[1][1] * vector.y + r[1][2] * vector.z,
+          r[2][0] * vector.x + r[2][1] * vector.y + r[2][2] * vector.z};
+}
+
+bool gsl_Matrix::IsIdentity() const {
+  const gsl_Matrix identity;
+  return std::equal(&rotation_[0][0], &rotation_[0][0] + 9, &identity.rotation_[0][0]) &&
+         translation_ == identity.translation_;
+}

@@ -16,6 +16,14 @@ public:
   /// and the angle in radians, from 0 to pi. Without rotation the angle is 0
   /// and the axis is z.
   void GetAxisRotation(gsl_Point& point, gsl_Vector& axis, double& angle) const;
+  /// The rotation applied to `vector`; a direction ignores the translation.
+  gsl_Vector TransformVector(const gsl_Vector& vector) const;
+  /// The rotation, then the translation, applied to `point`.
+  gsl_Point TransformPoint(const gsl_Point& point) const {
+    return TransformVector(point) + translation_;
+  }
+  /// True for the exact identity, the default matrix.
+  bool IsIdentity() const;
 
 private:
   double rotation_[3][3] = {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}};

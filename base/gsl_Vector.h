@@ -17,6 +17,14 @@ struct gsl_Vector {
   friend gsl_Vector operator+(const gsl_Vector& a, const gsl_Vector& b) {
     return {a.x + b.x, a.y + b.y, a.z + b.z};
   }
+  friend gsl_Vector operator-(const gsl_Vector& a, const gsl_Vector& b) {
+    return {a.x - b.x, a.y - b.y, a.z - b.z};
+  }
+  friend bool operator==(const gsl_Vector& a, const gsl_Vector& b) = default;
+  /// The cross product a x b.
+  friend gsl_Vector Cross(const gsl_Vector& a, const gsl_Vector& b) {
+    return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
+  }
 };
 
 /// A point in space; the same three reals as a vector.

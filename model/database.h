@@ -4,8 +4,10 @@
 #include "base/cow_String.h"
 #include "base/mdl_MapString2ObjCow.h"
 #include "model/amplitudes.h"
+#include "model/datums.h"
 #include "model/materials.h"
 #include "model/mesh.h"
+#include "model/orientations.h"
 #include "model/records.h"
 #include "model/sections.h"
 #include "model/steps.h"
@@ -25,12 +27,18 @@ public:
     v("elements", mesh_.elements.classes, cow_List<ddb_ElementClass>());
     v("sets", setDefinitions_, cow_Btree<cow_String, keydeck::PartSet>());
     v("surfaces", surfaceDefinitions_, cow_Btree<cow_String, keydeck::PartSurface>());
+    v("datums", datums_, cow_Btree<cow_String, ddb_DatumCsys>());
+    v("beamOrientations", beamOrientations_, cow_List<ptoC_BeamOrientation>());
+    v("materialOrientations", materialOrientations_, cow_List<ptoC_MaterialOrientation>());
     v("solverInput", solverInput_, cow_String());
   }
 
   ddb_Mesh mesh_; ///< its `sets` are derived after loading from the two maps below
   cow_Btree<cow_String, keydeck::PartSet> setDefinitions_;
   cow_Btree<cow_String, keydeck::PartSurface> surfaceDefinitions_;
+  cow_Btree<cow_String, ddb_DatumCsys> datums_; ///< in the part's frame
+  cow_List<ptoC_BeamOrientation> beamOrientations_;
+  cow_List<ptoC_MaterialOrientation> materialOrientations_;
   cow_String solverInput_;
 };
 
@@ -99,6 +107,10 @@ public:
   const ddb_NodeData& nodeData() const { return mesh_.nodeData(); }
   const ddb_ElementData& elementData() const { return mesh_.elementData(); }
   const ddb_SetList& set() const { return mesh_.set(); }
+  const ddb_BeamOrientationContainer& beamOrientations() const { return beamOrientations_; }
+  const ddb_MaterialOrientationContainer& materialOrientations() const {
+    return materialOrientations_;
+  }
 
   template <class V> void Fields(V& v) {
     v("part", partName_);
@@ -114,6 +126,9 @@ public:
   // Derived after loading:
   cow_String name_; ///< the instance's key in the assembly
   ddb_Mesh mesh_;   ///< the part's mesh and sets with this instance's mesh index
+  /// The part's orientations with their regions in this instance's mesh.
+  ddb_BeamOrientationContainer beamOrientations_;
+  ddb_MaterialOrientationContainer materialOrientations_;
   // and `transform_` of the base, from `translation_` and `rotation_`.
 };
 
@@ -136,6 +151,7 @@ public:
     v("instances", instances_, ddb_InstanceContainer());
     v("sets", setDefinitions_, cow_Btree<cow_String, keydeck::AssemblySet>());
     v("surfaces", surfaceDefinitions_, cow_Btree<cow_String, keydeck::AssemblySurface>());
+    v("datums", datums_, cow_Btree<cow_String, ddb_DatumCsys>());
     v("solverInput", solverInput_, cow_String());
   }
 
@@ -147,6 +163,7 @@ public:
   cow_Btree<cow_String, keydeck::AssemblySet> setDefinitions_;
   cow_Btree<cow_String, keydeck::AssemblySurface> surfaceDefinitions_;
   ddb_SetList sets_; ///< derived after loading from the two maps above
+  cow_Btree<cow_String, ddb_DatumCsys> datums_;
 };
 
 /// One model of the database. Its members are copy-on-write, so copying a
@@ -160,6 +177,8 @@ public:
   const cow_String& solverInput() const { return solverInput_; }
   /// The mesh of that index: an instance's, or the assembly's own (index 0).
   const ddb_Mesh& mesh(int index) const;
+  /// The datum of that id (from a `dtmC_DatumRef` that is not null).
+  const ddb_Datum& datum(const int& id) const { return datums_.ConstGet(id - 1); }
 
   double absoluteZero() const { return absoluteZero_; }
   double stefanBoltzmann() const { return stefanBoltzmann_; }
@@ -199,6 +218,10 @@ public:
   mdl_MapString2ObjCow<kseC_Section> sections_; ///< none until the section families load
   mdl_MapString2ObjCow<kamC_Amplitude> amplitudes_;
   ddb_DdbStepContainer steps_;
+  /// Derived after loading: every datum under its id minus 1. Each part's
+  /// datums in its frame, the assembly's, then each instance's in the frame
+  /// of the assembly.
+  cow_List<ddb_Datum> datums_;
   cow_String topLevelSolverInput_;
   cow_String solverInput_;
   double absoluteZero_ = keydeck::NotGivenDouble;

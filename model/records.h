@@ -36,6 +36,7 @@ inline constexpr unsigned AnalysisStep = 37486593; // 0x23C0001
 inline constexpr unsigned LoadCase = 37486800;
 inline constexpr unsigned PartInstance = 37490000;
 inline constexpr unsigned GasketSection = 0x2600018;
+inline constexpr unsigned PointSection = 0x2600019;
 inline constexpr unsigned Material = 37500000;
 inline constexpr unsigned BoltLoad = 0x2880024;
 inline constexpr unsigned DecayAmplitude = 0x2440003;

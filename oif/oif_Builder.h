@@ -10,6 +10,7 @@
 #include "oif/oif_MaterialBuilder.h"
 #include "oif/oif_PartBuilder.h"
 #include "oif/oif_RegionBuilder.h"
+#include "oif/oif_TransformBuilder.h"
 #include "qkw/qkw_BuilderComponent.h"
 
 class oif_Model;
@@ -63,6 +64,7 @@ private:
   oif_PartBuilder part_;
   oif_RegionBuilder region_;
   oif_AmplitudeBuilder amplitude_;
+  oif_TransformBuilder transform_;
   oif_FinalBuilder final_;
   bool v6Format_;
   const oif_Model* model_;

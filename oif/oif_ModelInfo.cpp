@@ -1,5 +1,7 @@
 #include "oif/oif_ModelInfo.h"
 
+#include "qkw/qkw_QuorvexName.h"
+
 oif_ModelInfo::oif_ModelInfo(const ddb_Model& model) : database_(model) {
   model_ = cow_ArrayCOW<qkw_Model>(new oif_Model(model, cow_String()));
   v6Format_ = true;
@@ -87,6 +89,14 @@ int oif_ModelInfo::IncrementElementIndex(const cow_String& instance, int count) 
 
 cow_String oif_ModelInfo::InstanceName(int meshIndex, bool) const {
   return instanceByMesh_.ConstGet(meshIndex);
+}
+
+cow_String oif_ModelInfo::GetOrientationName(const dtmC_DatumRef& datum, double angle,
+                                             cow_String suffix) const {
+  cow_String name = database_.datum(datum.Id()).Shortcut();
+  if (!suffix.Empty() && angle != 0.0)
+    name = name + "_" + suffix + "_";
+  return qkw_QuorvexName(name, false).Printable();
 }
 
 kprC_AnalysisProductEnm oif_ModelInfo::AnalysisProduct() const {

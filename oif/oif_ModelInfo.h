@@ -24,6 +24,8 @@ public:
   int GetNewElementIndex(const cow_String& instance, bool commit) override;
   int IncrementElementIndex(const cow_String& instance, int count) override;
   cow_String InstanceName(int meshIndex, bool unused) const override;
+  cow_String GetOrientationName(const dtmC_DatumRef& datum, double angle,
+                                cow_String suffix) const override;
   kprC_AnalysisProductEnm AnalysisProduct() const override;
   int TeachingNodes() const override { return totalNodes_; }
   bool ExplicitJob() const override { return explicitJob_; }

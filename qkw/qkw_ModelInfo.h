@@ -2,6 +2,7 @@
 
 #include "base/cow_COW.h"
 #include "base/cow_String.h"
+#include "model/datums.h"
 #include "model/steps.h"
 #include "qkw/qkw_Model.h"
 
@@ -40,6 +41,12 @@ public:
   /// The name of the instance whose mesh has that index ("" for the
   /// assembly's own mesh). The flag is not used.
   virtual cow_String InstanceName(int meshIndex, bool unused) const = 0;
+  /// The deck name of an orientation on a datum: the datum's name, with
+  /// "_" + `suffix` + "_" appended when `suffix` is not empty and `angle`
+  /// is not 0, quoted as a deck name. Users of one datum without an
+  /// additional rotation thus share one orientation.
+  virtual cow_String GetOrientationName(const dtmC_DatumRef& datum, double angle,
+                                        cow_String suffix) const = 0;
   virtual kprC_AnalysisProductEnm AnalysisProduct() const = 0;
   /// The number of nodes of all meshes together.
   virtual int TeachingNodes() const = 0;

@@ -1,5 +1,6 @@
 #include "model/json/derive.h"
 
+#include "model/json/derive_orientations.h"
 #include "model/json/json_text.h"
 #include "model/propagation.h"
 
@@ -768,6 +769,7 @@ void DeriveModel(std::string_view modelPath, ddb_Model& model, LoadErrors& error
   }
   DeriveInstances(modelPath, model, errors);
   DeriveAssemblySets(modelPath, model, partLabels, errors);
+  DeriveDatumsAndOrientations(modelPath, model, errors);
   CheckAmplitudes(modelPath, model, errors);
   DeriveStepStates(modelPath, model, errors);
 }

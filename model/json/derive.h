@@ -33,6 +33,7 @@ namespace keydeck {
 /// - The assembly's sets and surfaces: `sets_`, one subset per instance mesh
 ///   and class in order of first appearance. The assembly's own mesh has
 ///   index 0.
+/// - Datums and orientations: `DeriveDatumsAndOrientations`.
 /// - Each amplitude: its tables of pairs of even length, their times in
 ///   order (`kamC_Amplitude::CheckData`).
 /// - Each step-dependent record (a map of records derived from

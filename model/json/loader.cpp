@@ -1,6 +1,7 @@
 #include "model/json/loader.h"
 
 #include "model/json/derive.h"
+#include "model/json/external_arrays.h"
 #include "model/json/fields.h"
 #include "model/json/json_syntax.h"
 #include "model/json/json_text.h"
@@ -234,9 +235,10 @@ std::string Described(simdjson::simdjson_result<od::json_type> type) {
 // their `Fields` lists.
 class Reader {
 public:
-  Reader(const simdjson::padded_string& text, std::string_view documentName, LoadErrors& errors,
-         std::vector<std::string>& warnings)
-      : text_(text), documentName_(documentName), errors_(errors), warnings_(warnings) {}
+  Reader(const simdjson::padded_string& text, std::string_view documentName,
+         const ExternalArrays& arrays, LoadErrors& errors, std::vector<std::string>& warnings)
+      : text_(text), documentName_(documentName), arrays_(arrays), errors_(errors),
+        warnings_(warnings) {}
 
   // Reads the whole text; false when it is broken or not a model file, so that
   // nothing more is worth checking.
@@ -456,8 +458,27 @@ private:
     }
   }
 
+  // The array handed over in memory whose placeholder is `value`, or null.
+  const ExternalArray* External(od::value value) {
+    if (arrays_.Empty())
+      return nullptr;
+    return arrays_.At(static_cast<std::size_t>(value.raw_json_token().data() - text_.data()));
+  }
+  // Reports the faults of such an array at their places below the current path.
+  ArrayFaultSink ExternalFaults() {
+    return [this](std::string_view what, int depth, std::size_t row, std::size_t column) {
+      if (depth == 0)
+        ErrorAt(what);
+      else if (depth == 1)
+        ErrorAt(what, row);
+      else
+        ErrorAt(what, row, column);
+    };
+  }
+
   const simdjson::padded_string& text_;
   std::string documentName_;
+  const ExternalArrays& arrays_;
   LoadErrors& errors_;
   std::vector<std::string>& warnings_;
   od::parser parser_;
@@ -508,13 +529,7 @@ void Reader::BadInt(od::value value, simdjson::error_code error, I... indices) {
   od::json_type type{};
   if ((!error || error == simdjson::INCORRECT_TYPE) && !value.type().get(type) &&
       type == od::json_type::number) {
-    const std::string token(Trimmed(value.raw_json_token()));
-    if (token.find_first_of(".eE") == std::string::npos)
-      ErrorAt("expected an integer from " + std::to_string(INT_MIN) + " to " +
-                  std::to_string(INT_MAX) + ", found " + token,
-              indices...);
-    else
-      ErrorAt("expected an integer, found " + token, indices...);
+    ErrorAt(IntegerFault(Trimmed(value.raw_json_token())), indices...);
     return;
   }
   Unexpected(value, error, "an integer", indices...);
@@ -537,8 +552,7 @@ template <class... I> void Reader::FloatFromText(od::value value, float& out, I.
   const std::from_chars_result result =
       std::from_chars(token.data(), token.data() + token.size(), out);
   if (result.ec == std::errc::result_out_of_range || std::isinf(out))
-    ErrorAt("the number " + std::string(token) + " is out of the range of a coordinate",
-            indices...);
+    ErrorAt(CoordinateRangeFault(token), indices...);
 }
 
 bool Reader::CountItems(od::array& array, int& count) {
@@ -762,6 +776,10 @@ void Reader::Read(od::value value, FileVersion& out) {
 }
 
 void Reader::Read(od::value value, cow_List<int>& out) {
+  if (const ExternalArray* external = External(value)) {
+    ReadIntegers(*external, out, ExternalFaults());
+    return;
+  }
   od::array array;
   int count = 0;
   if (!GetArray(value, array) || !CountItems(array, count))
@@ -789,6 +807,10 @@ void Reader::Read(od::value value, cow_List<double>& out) {
 }
 
 void Reader::Read(od::value value, uti_CoordCont3D& out) {
+  if (const ExternalArray* external = External(value)) {
+    ReadCoordinates(*external, out, ExternalFaults());
+    return;
+  }
   od::array rows;
   int count = 0;
   if (!GetArray(value, rows) || !CountItems(rows, count))
@@ -868,6 +890,10 @@ void Reader::Read(od::value value, cow_2DArray<int>& out) {
                          return "a connectivity row of " + std::to_string(found) +
                                 " nodes where the first row has " + std::to_string(width);
                        }};
+  if (const ExternalArray* external = External(value)) {
+    ReadIntegerRows(*external, out, words.emptyRow, ExternalFaults());
+    return;
+  }
   ReadRows(value, out, words, [&](od::value label, int& cell, std::size_t row, std::size_t column) {
     ReadInt(label, cell, row, column);
   });
@@ -883,6 +909,11 @@ void Reader::Read(od::value value, kmaC_MaterialTable& out) {
                          return what;
                        }};
   cow_2DArray<double> cells;
+  if (const ExternalArray* external = External(value)) {
+    ReadRealRows(*external, cells, words.emptyRow, ExternalFaults());
+    out = kmaC_MaterialTable(cells);
+    return;
+  }
   ReadRows(value, cells, words,
            [&](od::value number, double& cell, std::size_t row, std::size_t column) {
              if (const simdjson::error_code error = number.get_double().get(cell))
@@ -958,6 +989,10 @@ template <ColumnCheckedRecord R> void Reader::CheckColumns(R& record) {
 }
 
 template <class T, std::size_t N> void Reader::Read(od::value value, std::array<T, N>& out) {
+  if (const ExternalArray* external = External(value)) {
+    ReadFixed(*external, out.data(), N, ExternalFaults());
+    return;
+  }
   od::array items;
   if (!GetArray(value, items))
     return;
@@ -981,7 +1016,7 @@ void Reader::Read(od::value value, LabelList& out) {
     Fail(error);
     return;
   }
-  if (type == od::json_type::array) {
+  if (type == od::json_type::array || External(value) != nullptr) {
     Read(value, out.labels);
     return;
   }
@@ -1221,7 +1256,7 @@ bool ReadFile(const char* path, simdjson::padded_string& text, LoadErrors& error
 }
 
 odb_Odb LoadText(simdjson::padded_string& text, std::string_view documentName,
-                 std::vector<std::string>& warnings) {
+                 const ExternalArrays& arrays, std::vector<std::string>& warnings) {
   LoadErrors errors;
   ModelFile file;
   file.format = FileFormat::Unknown;
@@ -1229,7 +1264,7 @@ odb_Odb LoadText(simdjson::padded_string& text, std::string_view documentName,
   bool whole = false;
   std::vector<std::string> readWarnings; // kept only if the model loads
   {
-    Reader reader(text, documentName, errors, readWarnings);
+    Reader reader(text, documentName, arrays, errors, readWarnings);
     whole = reader.Read(file);
   }
   text = simdjson::padded_string(); // the model holds all it needs from the text now
@@ -1253,12 +1288,17 @@ odb_Odb LoadModelFile(const char* path, std::vector<std::string>& warnings) {
   LoadErrors errors;
   if (!ReadFile(path, text, errors))
     errors.Throw();
-  return LoadText(text, path, warnings);
+  return LoadText(text, path, ExternalArrays(), warnings);
 }
 
 odb_Odb LoadModelText(std::string_view json, std::vector<std::string>& warnings) {
+  return LoadModelText(json, ExternalArrays(), warnings);
+}
+
+odb_Odb LoadModelText(std::string_view json, const ExternalArrays& arrays,
+                      std::vector<std::string>& warnings) {
   simdjson::padded_string text(json);
-  return LoadText(text, "", warnings);
+  return LoadText(text, "", arrays, warnings);
 }
 
 } // namespace keydeck

@@ -9,6 +9,8 @@
 
 namespace keydeck {
 
+class ExternalArrays;
+
 /// Opens the model file at `path` (the format is described in
 /// docs/model-format.md) and returns the database it holds, with everything
 /// derived that the writer reads. Notes that do not stop the deck (parts of
@@ -23,5 +25,10 @@ odb_Odb LoadModelFile(const char* path, std::vector<std::string>& warnings);
 /// `LoadModelFile` for a model file's text already in memory. Problems with
 /// the text as a whole carry no path.
 odb_Odb LoadModelText(std::string_view json, std::vector<std::string>& warnings);
+
+/// `LoadModelText` for a text whose numeric arrays stand in `arrays` (see
+/// external_arrays.h); each is read and checked as the array it stands for.
+odb_Odb LoadModelText(std::string_view json, const ExternalArrays& arrays,
+                      std::vector<std::string>& warnings);
 
 } // namespace keydeck

@@ -44,8 +44,6 @@ inline constexpr PendingFamily PendingFamilies[] = {
     {Holder::Model, "fieldOutputRequests", "field output requests"},
     {Holder::Model, "historyOutputRequests", "history output requests"},
     {Holder::Model, "connectorSections", "connector sections"},
-    {Holder::Model, "datums", "datums"},
-    {Holder::Model, "orientations", "orientations"},
     {Holder::Part, "sectionAssignments", "section assignments"},
     {Holder::Assembly, "nodes", "assembly nodes"},
     {Holder::Assembly, "elements", "assembly elements"},

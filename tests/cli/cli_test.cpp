@@ -252,3 +252,43 @@ TEST_F(Command, MeshAndSetFaultsNameTheirPlace) {
 }
 
 } // namespace
+
+namespace {
+
+TEST_F(Command, DatumAndOrientationFaultsNameTheirPlace) {
+  const std::string head = R"({"format": "keydeck-model", "version": 1, "models": {"M": {
+      "parts": {"P": {"nodes": {"labels": [1, 2], "coordinates": [[0,0,0],[1,0,0]]},
+      "elements": [{"type": "T3D2", "labels": [1], "connectivity": [[1, 2]]}],
+      "sets": {"E": {"elements": [1]}})";
+  const std::string tail = R"(}}, "assembly": {"instances": {"I": {"part": "P"}}}}}})";
+  struct Case {
+    const char* name;
+    std::string part;
+    const char* message;
+  };
+  const Case cases[] = {
+      {"zero_axis",
+       R"(, "datums": {"D": {"type": "cylindrical", "point1": [0,0,0], "point2": [0,1,0]}})",
+       "models/M/parts/P/datums/D/point1: the x axis has zero length: point1 is the origin"},
+      {"no_plane",
+       R"(, "datums": {"D": {"type": "rectangular", "point1": [1,0,0], "point2": [3,0,0]}})",
+       "models/M/parts/P/datums/D/point2: origin, point1 and point2 lie on one line and span "
+       "no plane"},
+      {"unknown_datum", R"(, "materialOrientations": [{"region": "E", "datum": "D"}])",
+       "models/M/parts/P/materialOrientations/0/datum: no datum \"D\" in the part"},
+      {"unknown_set", R"(, "beamOrientations": [{"region": "F", "direction": [0,0,1]}])",
+       "models/M/parts/P/beamOrientations/0/region: no element set \"F\" in the part"},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.name);
+    const fs::path path = Model(std::string(c.name) + ".json", head + c.part + tail);
+    const Outcome run =
+        RunKeydeck({"write", path.string(), "-m", "M", "-o", Out().string()}, folder_);
+    EXPECT_EQ(run.status, 1);
+    EXPECT_NE(run.err.find(c.message), std::string::npos) << run.err;
+    EXPECT_EQ(CountLines(run.err), 1) << run.err;
+    EXPECT_TRUE(Written().empty());
+  }
+}
+
+} // namespace

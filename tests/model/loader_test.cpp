@@ -296,9 +296,7 @@ TEST(Loader, FamiliesNotSupportedYet) {
       {"constraints", "constraints"},
       {"fieldOutputRequests", "field output requests"},
       {"historyOutputRequests", "history output requests"},
-      {"connectorSections", "connector sections"},
-      {"datums", "datums"},
-      {"orientations", "orientations"}};
+      {"connectorSections", "connector sections"}};
   for (const auto& [key, words] : modelKeys) {
     SCOPED_TRACE(key);
     EXPECT_EQ(MessagesOf(InModel(std::string(R"({")") + key + R"(": {}})")),

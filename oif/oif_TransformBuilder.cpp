@@ -1,0 +1,62 @@
+#include "oif/oif_TransformBuilder.h"
+
+#include "oif/oif_ModelInfo.h"
+#include "oif/oif_Nset.h"
+#include "oif/oif_SetName.h"
+#include "oif/oif_Transform.h"
+
+oif_TransformBuilder::oif_TransformBuilder(oif_ModelInfo& info) : qkw_BuilderComponent(info) {}
+
+qkw_BuilderComponent* oif_TransformBuilder::Copy() const { return new oif_TransformBuilder(*this); }
+
+void oif_TransformBuilder::Build() {
+  CollectCsysRegionsList();
+  AddTransforms();
+  // The "*Orientation" cards of connector orientations, couplings and
+  // inertia relief loads (each datum and additional rotation once, by
+  // `GetOrientationName`) are filed here when those families join the model.
+}
+
+// The families that refer to a datum append their objects here as they
+// join the model, in this order: boundary conditions by key, unsuppressed,
+// with a datum or of the symmetry kind (collected even without one);
+// concentrated forces and moments by key, unsuppressed, with a datum; then,
+// in constraint name order, each equation term with a datum, as the
+// assembly's node set of the term. None of them is in the model yet.
+void oif_TransformBuilder::CollectCsysRegionsList() {}
+
+void oif_TransformBuilder::AppendCsysRegion(const rgnC_Region& region, const dtmC_DatumRef& datum) {
+  regions_.Append(region);
+  datums_.Append(datum);
+}
+
+void oif_TransformBuilder::AddTransforms() {
+  const int count = datums_.Size();
+  cow_List<cow_List<cow_String>> setsByDatum = cow_List<cow_List<cow_String>>::WithCapacity(count);
+  for (int i = 0; i < count; ++i)
+    setsByDatum.Append(cow_List<cow_String>());
+  for (int i = 0; i < count; ++i) {
+    const cow_String setName =
+        oif_SetName(regions_.ConstGet(i), *modelInfo).UniqueSetName(oif_SetName::AssemblyScope);
+    setsByDatum.Get(FirstUserOfDatum(i)).AppendUnlessMember(setName);
+  }
+  const ddb_Model& database = keydeck::FacadeOf(*model).Model();
+  for (int i = 0; i < count; ++i) {
+    if (setsByDatum.ConstGet(i).Empty())
+      continue;
+    const cow_String name = ConstGetDatumName(datums_.ConstGet(i));
+    AddAssemblyDefinition(oif_Nset(name, setsByDatum.ConstGet(i)));
+    AddAssemblyDefinition(oif_Transform(database, datums_.ConstGet(i), name));
+  }
+}
+
+int oif_TransformBuilder::FirstUserOfDatum(int index) const {
+  int first = 0;
+  while (!(datums_.ConstGet(first) == datums_.ConstGet(index)))
+    ++first;
+  return first;
+}
+
+cow_String oif_TransformBuilder::ConstGetDatumName(const dtmC_DatumRef& datum) const {
+  return "_T-" + oif_SetName::Unquote(modelInfo->GetOrientationName(datum, 0.0, ""));
+}
