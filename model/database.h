@@ -3,6 +3,7 @@
 #include "base/cow_Btree.h"
 #include "base/cow_String.h"
 #include "base/mdl_MapString2ObjCow.h"
+#include "model/amplitudes.h"
 #include "model/datums.h"
 #include "model/materials.h"
 #include "model/mesh.h"
@@ -208,11 +209,14 @@ public:
   bool shellToSolid() const { return shellToSolid_; }
   const mdl_MapString2ObjCow<kmaC_Material>& material() const { return materials_; }
   const mdl_MapString2ObjCow<kseC_Section>& sections() const { return sections_; }
+  const mdl_MapString2ObjCow<kamC_Amplitude>& amplitudes() const { return amplitudes_; }
 
   template <class V> void Fields(V& v) {
     v({"parts", "the parts by name"}, parts_.parts_, cow_Btree<cow_String, ddb_Part>());
     v({"assembly", "the assembly of part instances"}, assembly_, ddb_Assembly());
     v({"materials", "the materials by name"}, materials_, mdl_MapString2ObjCow<kmaC_Material>());
+    v({"amplitudes", "the amplitudes by name: how a load or condition varies in time"},
+      amplitudes_, mdl_MapString2ObjCow<kamC_Amplitude>());
     v({"steps", "the steps in order, the initial step first"}, steps_.steps, kprC_StepContainer());
     v({"topLevelSolverInput", "raw solver text written verbatim at the top of the deck"},
       topLevelSolverInput_, cow_String());
@@ -240,6 +244,7 @@ public:
   ddb_Assembly assembly_;
   mdl_MapString2ObjCow<kmaC_Material> materials_;
   mdl_MapString2ObjCow<kseC_Section> sections_; ///< none until the section families load
+  mdl_MapString2ObjCow<kamC_Amplitude> amplitudes_;
   ddb_DdbStepContainer steps_;
   /// Derived after loading: every datum under its id minus 1. Each part's
   /// datums in its frame, the assembly's, then each instance's in the frame

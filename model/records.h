@@ -5,6 +5,7 @@
 
 #include <limits>
 #include <source_location>
+#include <string>
 #include <string_view>
 #include <type_traits>
 #include <utility>
@@ -73,7 +74,27 @@ inline constexpr unsigned PartInstance = 37490000;
 inline constexpr unsigned GasketSection = 0x2600018;
 inline constexpr unsigned PointSection = 0x2600019;
 inline constexpr unsigned Material = 37500000;
+inline constexpr unsigned BoltLoad = 0x2880024;
+inline constexpr unsigned DecayAmplitude = 0x2440003;
+inline constexpr unsigned EquallySpacedAmplitude = 0x2440004;
+inline constexpr unsigned ModulatedAmplitude = 0x2440005;
+inline constexpr unsigned PeriodicAmplitude = 0x2440006;
+inline constexpr unsigned SolutionDependentAmplitude = 0x2440007;
+inline constexpr unsigned TabularAmplitude = 0x2440008;
+inline constexpr unsigned PsdDefinitionAmplitude = 0x2440009;
+inline constexpr unsigned SpectrumAmplitude = 0x244000A;
+inline constexpr unsigned SmoothStepAmplitude = 0x244000B;
+inline constexpr unsigned BubbleAmplitude = 0x244000C;
+inline constexpr unsigned UserAmplitude = 0x244000D;
 } // namespace TypeIds
+
+/// A problem inside one record that only the record's own checks find:
+/// where, below the record's path ("data/4", "steps/Step-2"), and what is
+/// wrong.
+struct RecordFault {
+  std::string where;
+  std::string what;
+};
 
 /// One enumerator of a model enumeration: its value, its text in the deck and
 /// its word in the model file.

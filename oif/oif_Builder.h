@@ -3,6 +3,7 @@
 #include "base/cow_COW.h"
 #include "base/cow_List.h"
 #include "base/cow_String.h"
+#include "oif/oif_AmplitudeBuilder.h"
 #include "oif/oif_FinalBuilder.h"
 #include "oif/oif_InstanceBuilder.h"
 #include "oif/oif_JobKeywordsBuilder.h"
@@ -70,6 +71,7 @@ private:
   oif_PartBuilder part_;
   oif_RegionBuilder region_;
   oif_StepBuilder step_;
+  oif_AmplitudeBuilder amplitude_;
   oif_TransformBuilder transform_;
   oif_FinalBuilder final_;
   bool v6Format_;

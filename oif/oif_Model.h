@@ -17,6 +17,8 @@ public:
   const mdl_MapString2ObjCow<kmaC_Material>& Materials() const { return model_.material(); }
   /// The sections, in ascending order of name.
   const mdl_MapString2ObjCow<kseC_Section>& Sections() const { return model_.sections(); }
+  /// The amplitudes, in ascending order of name.
+  const mdl_MapString2ObjCow<kamC_Amplitude>& Amplitudes() const { return model_.amplitudes(); }
 
   const kprC_StepContainer& Steps() const override { return model_.step().container(); }
   double AbsoluteZero() const override { return model_.absoluteZero(); }

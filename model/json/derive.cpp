@@ -3,10 +3,12 @@
 #include "model/json/derive_orientations.h"
 #include "model/json/json_text.h"
 #include "model/json/region_names.h"
+#include "model/propagation.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <concepts>
 #include <cstdint>
 #include <map>
 #include <numbers>
@@ -727,6 +729,59 @@ void DeriveStepRegions(std::string_view modelPath, ddb_Model& model, LoadErrors&
   }
 }
 
+template <class M> constexpr bool IsPropagatingMap = false;
+template <std::derived_from<kprC_PropagatingRecord> R>
+constexpr bool IsPropagatingMap<mdl_MapString2ObjCow<R>> = true;
+
+// Finds the model's maps of step-dependent records and derives the status and
+// state of each record in every step of the model.
+class StepStateDeriver {
+public:
+  StepStateDeriver(std::string_view modelPath, const kprC_StepContainer& steps, LoadErrors& errors)
+      : modelPath_(modelPath), steps_(steps), errors_(errors) {}
+  template <class M> void operator()(FieldName name, M& member) { Visit(name, member); }
+  template <class M, class D> void operator()(FieldName name, M& member, const D&) {
+    Visit(name, member);
+  }
+
+private:
+  template <class M> void Visit(std::string_view name, M& member) {
+    if constexpr (IsPropagatingMap<M>)
+      DeriveAll(name, member);
+  }
+  template <class R> void DeriveAll(std::string_view mapName, mdl_MapString2ObjCow<R>& records) {
+    for (const cow_String& name : records.Keys()) {
+      typename mdl_MapString2ObjCow<R>::Handle handle = records.ConstGetMap().ConstGet(name);
+      std::vector<RecordFault> faults;
+      handle.Get().DeriveStates(steps_, faults);
+      for (const RecordFault& fault : faults)
+        errors_.Add(std::string(modelPath_) + "/" + std::string(mapName) + "/" +
+                        std::string(name.View()) + "/" +
+                        fault.where,
+                    fault.what);
+      records.Insert(name, std::move(handle));
+    }
+  }
+
+  std::string_view modelPath_;
+  const kprC_StepContainer& steps_;
+  LoadErrors& errors_;
+};
+
+// Tables of pairs hold pairs, and times do not run backwards.
+void CheckAmplitudes(std::string_view modelPath, const ddb_Model& model, LoadErrors& errors) {
+  for (const auto& [name, amplitude] : model.amplitudes())
+    if (const std::optional<RecordFault> fault = amplitude->CheckData())
+      errors.Add(std::string(modelPath) + "/amplitudes/" + std::string(name.View()) + "/" +
+                     fault->where,
+                 fault->what);
+}
+
+void DeriveStepStates(std::string_view modelPath, ddb_Model& model, LoadErrors& errors) {
+  StepStateDeriver deriver(modelPath, model.step().container(), errors);
+  model.Fields(deriver);
+}
+
 } // namespace
 
 void DeriveModel(std::string_view modelPath, ddb_Model& model, LoadErrors& errors) {
@@ -755,6 +810,8 @@ void DeriveModel(std::string_view modelPath, ddb_Model& model, LoadErrors& error
   DeriveAssemblySets(modelPath, model, partLabels, errors);
   DeriveDatumsAndOrientations(modelPath, model, errors);
   DeriveStepRegions(modelPath, model, errors);
+  CheckAmplitudes(modelPath, model, errors);
+  DeriveStepStates(modelPath, model, errors);
 }
 
 } // namespace keydeck

@@ -36,6 +36,12 @@ namespace keydeck {
 ///   and class in order of first appearance. The assembly's own mesh has
 ///   index 0.
 /// - Datums and orientations: `DeriveDatumsAndOrientations`.
+/// - Each amplitude: its tables of pairs of even length, their times in
+///   order (`kamC_Amplitude::CheckData`).
+/// - Each step-dependent record (a map of records derived from
+///   `kprC_PropagatingRecord` among the model's fields): its status and
+///   state in every step, by the propagation rule; a fault of its steps is
+///   reported under the record's path.
 void DeriveModel(std::string_view modelPath, ddb_Model& model, LoadErrors& errors);
 
 } // namespace keydeck

@@ -24,6 +24,8 @@ template <class M, class D> bool IsDefault(const M& member, const D& value) {
     return member.Rows() == 0 && value.Rows() == 0;
   } else if constexpr (IsOptional<M>) {
     return !member.has_value();
+  } else if constexpr (IsPropAttr<M>) {
+    return !member.IsActive();
   } else if constexpr (requires { member.Size(); } && std::is_same_v<M, D>) {
     // Compared in place: a copy of a container with an optional inside trips
     // a false "maybe uninitialized" warning of the compiler.
@@ -57,6 +59,13 @@ public:
     out_.CloseArray();
   }
 
+  void Write(const cow_List<double>& numbers) {
+    out_.OpenArray(/*oneLine=*/true);
+    for (const double number : numbers)
+      out_.Real(number);
+    out_.CloseArray();
+  }
+
   void Write(const uti_CoordCont3D& points) {
     out_.OpenArray(/*oneLine=*/false);
     for (const uti_Coord3D& point : points) {
@@ -79,6 +88,8 @@ public:
     assert(value.has_value() && "an absent optional field is left out");
     Write(*value);
   }
+
+  template <class T> void Write(const mdl_PropAttr<T>& attribute) { Write(attribute.ConstGet()); }
 
   void Write(const LabelList& list) {
     if (list.isRange)

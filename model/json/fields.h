@@ -3,6 +3,7 @@
 #include "base/cow_Btree.h"
 #include "base/cow_String.h"
 #include "model/database.h"
+#include "model/propagation.h"
 #include "model/records.h"
 #include "model/steps.h"
 

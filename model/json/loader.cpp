@@ -469,6 +469,7 @@ private:
   template <TabledEnum E> void Read(od::value value, E& out);
   void Read(od::value value, FileVersion& out);
   void Read(od::value value, cow_List<int>& out);
+  void Read(od::value value, cow_List<double>& out);
   void Read(od::value value, uti_CoordCont3D& out);
   /// What the messages of `ReadRows` call a row that is empty or uneven.
   struct RowWords {
@@ -483,6 +484,14 @@ private:
   template <class T> void Read(od::value value, std::optional<T>& out) {
     out.emplace();
     Read(value, *out);
+  }
+  // An attribute of a step state that the file gives is set in its step.
+  template <class T> void Read(od::value value, mdl_PropAttr<T>& out) {
+    T given{};
+    const int before = errors_.Count();
+    Read(value, given);
+    if (errors_.Count() == before)
+      out = mdl_PropAttr<T>(std::move(given), mdl_AttributeSet);
   }
   void Read(od::value value, LabelList& out);
   void CheckRange(const LabelRange& range);
@@ -915,6 +924,20 @@ void Reader::Read(od::value value, cow_List<int>& out) {
   });
 }
 
+void Reader::Read(od::value value, cow_List<double>& out) {
+  od::array array;
+  int count = 0;
+  if (!GetArray(value, array) || !CountItems(array, count))
+    return;
+  out = cow_List<double>::WithCapacity(count);
+  ForEachItem(array, [&](od::value item, std::size_t index) {
+    double number = 0;
+    if (const simdjson::error_code error = item.get_double().get(number))
+      BadReal(item, error, index);
+    out.Append(number);
+  });
+}
+
 void Reader::Read(od::value value, uti_CoordCont3D& out) {
   if (const ExternalArray* external = External(value)) {
     ReadCoordinates(*external, out, ExternalFaults());
@@ -1290,13 +1313,6 @@ void Reader::ReadStep(od::object& object, std::type_identity<Step>, kprC_StepCon
     return;
   }
   out.Append(step.name, kprC_StepContainer::Handle(static_cast<const kprC_Step&>(step.step)));
-}
-
-// The shortest text that reads back as `value`.
-std::string NumberText(double value) {
-  std::array<char, 32> text{};
-  const std::to_chars_result end = std::to_chars(text.data(), text.data() + text.size(), value);
-  return std::string(text.data(), end.ptr);
 }
 
 // What the fields of a step must satisfy together, and what the step leaves

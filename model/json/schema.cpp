@@ -68,10 +68,15 @@ public:
     out_.CloseArray();
   }
   void Body(const cow_List<int>&) { ArrayOf(0, /*minItems=*/-1, /*maxItems=*/-1); }
+  void Body(const cow_List<double>&) { ArrayOf(0.0, /*minItems=*/-1, /*maxItems=*/-1); }
   template <class T, std::size_t N> void Body(const std::array<T, N>&) {
     ArrayOf(T(), static_cast<int>(N), static_cast<int>(N));
   }
   template <class T> void Body(const std::optional<T>&) {
+    T value{};
+    Body(value);
+  }
+  template <class T> void Body(const mdl_PropAttr<T>&) {
     T value{};
     Body(value);
   }
@@ -346,9 +351,10 @@ private:
 
   // The "default" of an optional field. A record's default is the record
   // with its fields' defaults, which the fields' schemas say already; a
-  // not-given mark is said by leaving the field out, so neither has one here.
+  // not-given mark, and an attribute left unset in its step, are said by
+  // leaving the field out, so none of them has one here.
   template <class M> void Default(const M& value) {
-    if constexpr (FieldRecord<M> || IsOptional<M>) {
+    if constexpr (FieldRecord<M> || IsOptional<M> || IsPropAttr<M>) {
       return;
     } else if constexpr (std::is_same_v<M, kmaC_MaterialTable>) {
       assert(value.Rows() == 0 && "a table whose default is not empty");

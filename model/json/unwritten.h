@@ -41,7 +41,6 @@ inline constexpr PendingFamily PendingFamilies[] = {
     {Holder::Model, "interactions", "interactions"},
     {Holder::Model, "interactionProperties", "interaction properties"},
     {Holder::Model, "constraints", "constraints"},
-    {Holder::Model, "amplitudes", "amplitudes"},
     {Holder::Model, "fieldOutputRequests", "field output requests"},
     {Holder::Model, "historyOutputRequests", "history output requests"},
     {Holder::Model, "connectorSections", "connector sections"},

@@ -294,7 +294,6 @@ TEST(Loader, FamiliesNotSupportedYet) {
       {"interactions", "interactions"},
       {"interactionProperties", "interaction properties"},
       {"constraints", "constraints"},
-      {"amplitudes", "amplitudes"},
       {"fieldOutputRequests", "field output requests"},
       {"historyOutputRequests", "history output requests"},
       {"connectorSections", "connector sections"}};
