@@ -1,14 +1,13 @@
 // Amplitudes through the command: their cards in the deck, and what the
 // command says of a bad amplitude.
 #include "tests/support/deck_text.h"
+#include "tests/support/run_keydeck.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
@@ -31,12 +30,10 @@ protected:
     std::ofstream(model) << R"({"format": "keydeck-model", "version": 1, "models": {"M": {
       "amplitudes": )" << amplitudes
                          << "}}}";
-    const std::string command = std::string(KEYDECK_BINARY) + " write -q -m M -o '" +
-                                folder_.string() + "' '" + model.string() + "' 2> '" +
-                                (folder_ / "err.txt").string() + "'";
-    const int status = std::system(command.c_str());
-    err = ReadFile((folder_ / "err.txt").string());
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    const keydeck::test::Outcome outcome = keydeck::test::RunKeydeck(
+        {"write", "-q", "-m", "M", "-o", folder_.string(), model.string()}, folder_);
+    err = outcome.err;
+    return outcome.status;
   }
   std::string Deck() const { return ReadFile((folder_ / "model.inp").string()); }
 
