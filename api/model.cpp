@@ -3,7 +3,6 @@
 #include "cli/deck_file.h"
 #include "model/database.h"
 #include "model/json/loader.h"
-#include "oif/oif_Builder.h"
 #include "oif/oif_ModelInfo.h"
 
 #include <exception>
@@ -86,13 +85,7 @@ std::string Model::Write(const std::string& job, const std::string& folder,
   if (!data_->odb.ddb().models_.IsMember(modelName))
     throw Error("no model named \"" + name + "\"");
   try {
-    DeckFile deck(folder, job);
-    oif_ModelInfo info(data_->odb.ddb().model(modelName));
-    oif_Builder builder(info);
-    if (!builder.WriteInputFile(cow_String(deck.TemporaryPath().c_str())))
-      throw Error("cannot write " + deck.FinalPath() + ": " + deck.OpenFailure());
-    deck.Commit();
-    return deck.FinalPath();
+    return WriteDeckFile(data_->odb.ddb().model(modelName), folder, job);
   } catch (const Error&) {
     throw;
   } catch (const std::exception& failure) { // as in Load: no internal type leaves the library

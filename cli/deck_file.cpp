@@ -1,7 +1,10 @@
 #include "cli/deck_file.h"
 
 #include "base/nex_Exception.h"
+#include "base/qio_ostream.h"
 #include "cli/interrupts.h"
+#include "oif/oif_Builder.h"
+#include "oif/oif_ModelInfo.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -180,6 +183,17 @@ void DeckFile::Commit() {
     Raise("cannot rename " + temporary + " to " + final_ + ": " + reason);
   }
   size_ = static_cast<long long>(made.st_size);
+}
+
+std::string WriteDeckFile(const ddb_Model& model, const std::string& folder,
+                          const std::string& job) {
+  DeckFile deck(folder, job);
+  oif_ModelInfo info(model);
+  oif_Builder builder(info);
+  qio_ofstreamDeck os(deck.Output(), /*owns=*/false);
+  builder.WriteInputFile(os);
+  deck.Commit();
+  return deck.FinalPath();
 }
 
 } // namespace keydeck

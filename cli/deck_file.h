@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+class ddb_Model;
+
 namespace keydeck {
 
 /// The deck file of one `keydeck write`: the deck is written to a temporary
@@ -54,5 +56,12 @@ private:
   std::FILE* output_ = nullptr;
   long long size_ = 0;
 };
+
+/// Writes the deck of `model` to FOLDER/JOB.inp through a `DeckFile`, as
+/// `keydeck write` does, and returns the deck's path: the library's and the
+/// Python module's write. Stale temporary decks go without a word; a failure
+/// raises and leaves no deck.
+std::string WriteDeckFile(const ddb_Model& model, const std::string& folder,
+                          const std::string& job);
 
 } // namespace keydeck

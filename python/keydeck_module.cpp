@@ -6,7 +6,6 @@
 #include "model/json/dumper.h"
 #include "model/json/loader.h"
 #include "model/json/schema.h"
-#include "oif/oif_Builder.h"
 #include "oif/oif_ModelInfo.h"
 #include "python/json_to_python.h"
 #include "python/python_to_json.h"
@@ -85,13 +84,7 @@ std::string WriteDeck(const LoadedModel& loaded, const std::string& job, const s
                       const std::string& modelName) {
   const ddb_Model& model = loaded.Model(modelName);
   py::gil_scoped_release released;
-  DeckFile deck(folder, job);
-  oif_ModelInfo info(model);
-  oif_Builder builder(info);
-  if (!builder.WriteInputFile(cow_String(deck.TemporaryPath().c_str())))
-    Raise("cannot write " + deck.FinalPath() + ": " + deck.OpenFailure());
-  deck.Commit();
-  return deck.FinalPath();
+  return WriteDeckFile(model, folder, job);
 }
 
 } // namespace
