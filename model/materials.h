@@ -591,32 +591,34 @@ public:
   virtual unsigned DynTypeId() const { return TypeId(); }
 
   template <class V> void Fields(V& v) {
-    v({"creep", "\"*Creep\": the creep law and its constants"}, creep, std::optional<kmaC_Creep>());
+    v({"creep", "creep: the creep law and its constants"}, creep, std::optional<kmaC_Creep>());
     v({"deformationPlasticity",
-       "\"*Deformation Plasticity\": 5 data columns and an optional temperature"},
+       "deformation plasticity: Young's modulus, Poisson's ratio, yield stress, exponent and "
+       "yield offset, and an optional temperature"},
       deformationPlasticity, std::optional<kmaC_DeformationPlasticity>());
-    v({"density", "\"*Density\": the mass density"}, density, std::optional<kmaC_Density>());
-    v({"elastic", "\"*Elastic\": elastic moduli"}, elastic, std::optional<kmaC_Elastic>());
+    v({"density", "the mass density"}, density, std::optional<kmaC_Density>());
+    v({"elastic", "elasticity: the elastic moduli"}, elastic, std::optional<kmaC_Elastic>());
     v({"thicknessBehavior", "the thickness behaviour of a gasket"}, thicknessBehavior,
       std::optional<kmaC_ThicknessBehavior>());
     v({"transShearElastic", "the transverse shear elasticity of a gasket"}, transShearElastic,
       std::optional<kmaC_TransShearElastic>());
     v({"membraneElastic", "the membrane elasticity of a gasket"}, membraneElastic,
       std::optional<kmaC_MembraneElastic>());
-    v({"gel", "\"*Gel\": 4 data columns"}, gel, std::optional<kmaC_Gel>());
-    v({"latentHeat", "\"*Latent Heat\": latent heat, solidus and liquidus"}, latentHeat,
+    v({"gel", "gel swelling of a porous medium: 4 data columns"}, gel, std::optional<kmaC_Gel>());
+    v({"latentHeat", "the latent heat, with the solidus and liquidus temperatures"}, latentHeat,
       std::optional<kmaC_LatentHeat>());
-    v({"plastic", "\"*Plastic\": the yield stress against plastic strain, with its companions"},
+    v({"plastic", "plasticity: the yield stress against plastic strain, with its companions"},
       plastic, std::optional<kmaC_Plastic>());
-    v({"porousBulkModuli", "\"*Porous Bulk Moduli\": 2 data columns and an optional temperature"},
+    v({"porousBulkModuli",
+       "the bulk moduli of the solid grains and of the permeating fluid, and an optional "
+       "temperature"},
       porousBulkModuli, std::optional<kmaC_PorousBulkModuli>());
     v({"regularization", "the regularization of the tables, on the material's own line"},
       regularization, std::optional<kmaC_Regularization>());
-    v({"solubility", "\"*Solubility\": the solubility"}, solubility,
+    v({"solubility", "the solubility of the diffusing substance"}, solubility,
       std::optional<kmaC_Solubility>());
-    v({"specificHeat", "\"*Specific Heat\": the specific heat"}, specificHeat,
-      std::optional<kmaC_SpecificHeat>());
-    v({"viscous", "\"*Viscous\": the viscous part of a two-layer viscoplastic model"}, viscous,
+    v({"specificHeat", "the specific heat"}, specificHeat, std::optional<kmaC_SpecificHeat>());
+    v({"viscous", "the viscous part of a two-layer viscoplastic model"}, viscous,
       std::optional<kmaC_Viscous>());
   }
 

@@ -375,7 +375,7 @@ class kprC_AnnealStep : public kprC_ProcedureStep<kprC_AnnealStep, kprC_Anneal>,
                         public kprC_NlgeomOption {
 public:
   static constexpr const char* Description =
-      "an anneal step: the solver resets the plastic state of the model";
+      "an anneal step: the solver resets the plastic strains of the model";
   kprC_Step::NlgeomEnm Nlgeom() const override { return NlgeomOf(nlgeom); }
   template <class V> void Fields(V& v) {
     kprC_AnalysisStep::Fields(v);
@@ -518,7 +518,8 @@ class kprC_GeostaticStep : public kprC_ProcedureStep<kprC_GeostaticStep, kprC_Ge
                            public kprC_NlgeomOption,
                            public kprC_MatrixStorageOption {
 public:
-  static constexpr const char* Description = "a geostatic step: the initial stress state of soils";
+  static constexpr const char* Description =
+      "a geostatic step: the initial stresses of the ground brought into equilibrium";
   kprC_Step::NlgeomEnm Nlgeom() const override { return NlgeomOf(nlgeom); }
   template <class V> void Fields(V& v) {
     kprC_AnalysisStep::Fields(v);
@@ -577,7 +578,7 @@ public:
     v({"noHaf", "true to skip the half-increment residual check"}, noHaf, false);
     v({"noStop", "true to go on through fixed increments that do not converge"}, noStop, false);
     v({"adiabatic", "true for an adiabatic stress analysis"}, adiabatic, false);
-    v({"initialAcceleration", "false when the solver is to take no initial accelerations"},
+    v({"initialAcceleration", "false to skip the calculation of the initial accelerations"},
       initialAcceleration, true);
   }
 
