@@ -50,6 +50,9 @@ template <> struct keydeck::EnumTable<dtu_DatumCsysType> {
 /// For a cylindrical or spherical system, z is the polar axis.
 class ddb_DatumCsys {
 public:
+  static constexpr const char* Description =
+      "a datum coordinate system given by its origin, a point on its x axis and a point in "
+      "its x-y plane";
   const gsl_Point& GetOrigin() const { return origin_; }
   const gsl_Vector& GetXaxis() const { return xAxis_; }
   const gsl_Vector& GetYaxis() const { return yAxis_; }
@@ -57,10 +60,10 @@ public:
   dtu_DatumCsysType GetCsysType() const { return type_; }
 
   template <class V> void Fields(V& v) {
-    v("type", type_);
-    v("origin", originPoint_, std::array<double, 3>{0, 0, 0});
-    v("point1", point1_);
-    v("point2", point2_);
+    v({"type", "the kind of coordinate system; z is the polar axis of the curved ones"}, type_);
+    v({"origin", "the origin of the system"}, originPoint_, std::array<double, 3>{0, 0, 0});
+    v({"point1", "a point on the x axis, apart from the origin"}, point1_);
+    v({"point2", "a point in the x-y plane, off the x axis, on the side of positive y"}, point2_);
   }
 
   /// Derives the axes from the three points; false when the first point is

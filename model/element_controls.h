@@ -18,6 +18,8 @@
 /// and no controls name.
 class bme_ElemCtrlParams {
 public:
+  static constexpr const char* Description =
+      "the element controls of an element class; each setting defaults to the solver's own";
   enum KinematicSplitEnm : int { AverageStrain = 1, Orthogonal = 2, Centroid = 3 };
   enum HourglassEnm : int {
     DefaultHourglass = 0,
@@ -45,21 +47,38 @@ public:
   friend bool operator==(const bme_ElemCtrlParams&, const bme_ElemCtrlParams&) = default;
 
   template <class V> void Fields(V& v) {
-    v("hourglassStiffness1", hourglassStiffness1, 0.0);
-    v("hourglassStiffness2", hourglassStiffness2, 0.0);
-    v("hourglassStiffness3", hourglassStiffness3, 0.0);
-    v("kinematicSplit", kinematicSplit, AverageStrain);
-    v("hourglass", hourglass, DefaultHourglass);
-    v("weightFactor", weightFactor, DefaultWeightFactor);
-    v("stressRate", stressRate, Jaumann);
-    v("secondOrderAccuracy", secondOrderAccuracy, DefaultSwitch);
-    v("displacementHourglassScale", scale1, 1.0);
-    v("rotationalHourglassScale", scale2, 1.0);
-    v("outOfPlaneHourglassScale", scale3, 1.0);
-    v("distortionControl", distortionControl, DefaultSwitch);
-    v("lengthRatio", lengthRatio, DefaultLengthRatio);
-    v("linearBulkViscosityScale", scale4, 1.0);
-    v("quadraticBulkViscosityScale", scale5, 1.0);
+    v({"hourglassStiffness1",
+       "the hourglass stiffness of the displacement degrees of freedom; 0: the solver computes it"},
+      hourglassStiffness1, 0.0);
+    v({"hourglassStiffness2",
+       "the hourglass stiffness of the rotational degrees of freedom; 0: the solver computes it"},
+      hourglassStiffness2, 0.0);
+    v({"hourglassStiffness3",
+       "the hourglass stiffness of out-of-plane displacement; 0: the solver computes it"},
+      hourglassStiffness3, 0.0);
+    v({"kinematicSplit", "the kinematic split of the element formulation"}, kinematicSplit,
+      AverageStrain);
+    v({"hourglass", "the method of hourglass control"}, hourglass, DefaultHourglass);
+    v({"weightFactor", "the weight factor of combined hourglass control"}, weightFactor,
+      DefaultWeightFactor);
+    v({"stressRate", "the objective stress rate"}, stressRate, Jaumann);
+    v({"secondOrderAccuracy", "second-order accuracy of the element formulation"},
+      secondOrderAccuracy, DefaultSwitch);
+    v({"displacementHourglassScale",
+       "the scale factor of the hourglass stiffness of the displacement degrees of freedom"},
+      scale1, 1.0);
+    v({"rotationalHourglassScale",
+       "the scale factor of the hourglass stiffness of the rotational degrees of freedom"},
+      scale2, 1.0);
+    v({"outOfPlaneHourglassScale",
+       "the scale factor of the hourglass stiffness of out-of-plane displacement"},
+      scale3, 1.0);
+    v({"distortionControl", "distortion control, which keeps elements from inverting"},
+      distortionControl, DefaultSwitch);
+    v({"lengthRatio", "the length ratio of distortion control"}, lengthRatio, DefaultLengthRatio);
+    v({"linearBulkViscosityScale", "the scale factor of the linear bulk viscosity"}, scale4, 1.0);
+    v({"quadraticBulkViscosityScale", "the scale factor of the quadratic bulk viscosity"}, scale5,
+      1.0);
   }
 
   /// The library whose settings these are: 1 the implicit solver's, 2 the

@@ -112,7 +112,9 @@ public:
 template <class Tag> class kmaC_PlainTable {
 public:
   keydeck::TableColumns ExpectedColumns() const { return Tag::Columns; }
-  template <class V> void Fields(V& v) { v("table", table); }
+  template <class V> void Fields(V& v) {
+    v({"table", "the rows of the table, as many columns in each as the behaviour takes"}, table);
+  }
 
   kmaC_MaterialTable table;
 };
@@ -185,13 +187,19 @@ public:
   keydeck::TableColumns ExpectedColumns() const { return Columns(DataColumns(type)); }
 
   template <class V> void Fields(V& v) {
-    v("type", type, Isotropic);
-    v("noCompression", noCompression, false);
-    v("noTension", noTension, false);
+    v({"type", "the kind of elasticity, which sets the data columns of the table"}, type,
+      Isotropic);
+    v({"noCompression", "true when the material bears no compressive stress"}, noCompression,
+      false);
+    v({"noTension", "true when the material bears no tensile stress"}, noTension, false);
     TableFields(v);
-    v("longTermModuli", moduli, 0);
-    v("failStress", failStress, std::optional<kmaC_FailStress>());
-    v("failStrain", failStrain, std::optional<kmaC_FailStrain>());
+    v({"longTermModuli", "not 0 when the moduli are long-term ones; it counts only beside a "
+                         "viscoelastic behaviour"},
+      moduli, 0);
+    v({"failStress", "the stress limits of the material: 7 data columns"}, failStress,
+      std::optional<kmaC_FailStress>());
+    v({"failStrain", "the strain limits of the material: 5 data columns"}, failStrain,
+      std::optional<kmaC_FailStrain>());
   }
 
   TypeEnm type = Isotropic;
@@ -224,9 +232,10 @@ public:
   static constexpr bool resetDef = false;
 
   template <class V> void Fields(V& v) {
-    v("a", a, aDef);
-    v("h", h, hDef);
-    v("reset", reset, resetDef);
+    v({"a", "the saturation rate of the kinematic shift"}, a, aDef);
+    v({"h", "the hardening modulus of the kinematic shift; the solver's own when left out"}, h,
+      hDef);
+    v({"reset", "true to reset the kinematic shift"}, reset, resetDef);
   }
 
   double a = aDef;
@@ -241,7 +250,7 @@ public:
   enum TypeEnm : int { Power = 0, YieldRatio = 1, JohnsonCook = 2 };
   keydeck::TableColumns ExpectedColumns() const { return Columns(2); }
   template <class V> void Fields(V& v) {
-    v("type", type, Power);
+    v({"type", "the law of the rate dependence"}, type, Power);
     TableFields(v);
   }
 
@@ -265,7 +274,9 @@ public:
   keydeck::TableColumns ExpectedColumns() const { return Columns(parameters ? 3 : 2); }
   template <class V> void Fields(V& v) {
     TableFields(v);
-    v("parameters", parameters, false);
+    v({"parameters", "true when the table gives three parameters (3 data columns) instead of "
+                     "stress against plastic strain (2)"},
+      parameters, false);
   }
 
   bool parameters = false;
@@ -278,8 +289,9 @@ public:
     return keydeck::DependentColumns(1, /*temperatureDependency=*/false, dependencies);
   }
   template <class V> void Fields(V& v) {
-    v("dependencies", dependencies, keydeck::Count{0});
-    v("table", table);
+    v({"dependencies", "the number of field-variable columns at the end of each row"}, dependencies,
+      keydeck::Count{0});
+    v({"table", "the rows of the table: the anneal temperature, then field variables"}, table);
   }
 
   int dependencies = 0;
@@ -306,18 +318,26 @@ public:
   keydeck::TableColumns ExpectedColumns() const;
 
   template <class V> void Fields(V& v) {
-    v("hardening", hardening, IsotropicHardening);
-    v("rateColumn", rate, false);
-    v("dataType", dataType, NoDataType);
-    v("strainRangeDependency", strainRangeDependency, false);
-    v("numBackstress", numBackstress, keydeck::Count{1});
+    v({"hardening", "the hardening rule, which sets the data columns of the table"}, hardening,
+      IsotropicHardening);
+    v({"rateColumn", "true when the third column of the table is the strain rate"}, rate, false);
+    v({"dataType", "the kind of data of combined hardening"}, dataType, NoDataType);
+    v({"strainRangeDependency", "true when stabilized data has a strain-range column"},
+      strainRangeDependency, false);
+    v({"numBackstress", "the number of backstresses of half-cycle and parameter data"},
+      numBackstress, keydeck::Count{1});
     TableFields(v);
-    v("rateDependent", rateDependent, std::optional<kmaC_RateDependent>());
-    v("potential", potential, std::optional<kmaC_Potential>());
-    v("cyclicHardening", cyclicHardening, std::optional<kmaC_CyclicHardening>());
-    v("ornl", ornl, std::optional<kmaC_Ornl>());
-    v("cycledPlastic", cycledPlastic, std::optional<kmaC_CycledPlastic>());
-    v("annealTemperature", annealTemperature, std::optional<kmaC_AnnealTemperature>());
+    v({"rateDependent", "the dependence of the yield stress on the strain rate"}, rateDependent,
+      std::optional<kmaC_RateDependent>());
+    v({"potential", "the ratios of anisotropic yield: 6 data columns"}, potential,
+      std::optional<kmaC_Potential>());
+    v({"cyclicHardening", "the isotropic part of combined hardening"}, cyclicHardening,
+      std::optional<kmaC_CyclicHardening>());
+    v({"ornl", "the constitutive model of the ORNL rules"}, ornl, std::optional<kmaC_Ornl>());
+    v({"cycledPlastic", "the cycled yield stress of the ORNL rules"}, cycledPlastic,
+      std::optional<kmaC_CycledPlastic>());
+    v({"annealTemperature", "the temperature above which the material anneals"}, annealTemperature,
+      std::optional<kmaC_AnnealTemperature>());
   }
 
   HardeningEnm hardening = IsotropicHardening;
@@ -375,10 +395,11 @@ public:
   keydeck::TableColumns ExpectedColumns() const;
 
   template <class V> void Fields(V& v) {
-    v("law", law, Strain);
+    v({"law", "the creep law, which sets the data columns of the table"}, law, Strain);
     TableFields(v);
-    v("ornl", ornl, std::optional<kmaC_Ornl>());
-    v("potential", potential, std::optional<kmaC_Potential>());
+    v({"ornl", "the constitutive model of the ORNL rules"}, ornl, std::optional<kmaC_Ornl>());
+    v({"potential", "the ratios of anisotropic yield: 6 data columns"}, potential,
+      std::optional<kmaC_Potential>());
   }
 
   LawEnm law = Strain;
@@ -414,7 +435,7 @@ public:
   }
 
   template <class V> void Fields(V& v) {
-    v("law", law, StrainLaw);
+    v({"law", "the viscous law, which sets the data columns of the table"}, law, StrainLaw);
     TableFields(v);
   }
 
@@ -438,8 +459,9 @@ public:
   static constexpr double rtolDef = 0.03;
 
   template <class V> void Fields(V& v) {
-    v("rtol", rtol, rtolDef);
-    v("strainRateRegularization", strainRateRegularization, Logarithmic);
+    v({"rtol", "the tolerance of the regularization of the material's tables"}, rtol, rtolDef);
+    v({"strainRateRegularization", "the scale of strain-rate regularization"},
+      strainRateRegularization, Logarithmic);
   }
 
   double rtol = rtolDef;
@@ -458,8 +480,9 @@ template <> struct keydeck::EnumTable<kmaC_Regularization::StrainRateRegularizat
 class kmaC_MembraneElastic {
 public:
   template <class V> void Fields(V& v) {
-    v("dependencies", dependencies, keydeck::Count{0});
-    v("table", table);
+    v({"dependencies", "the number of field-variable columns at the end of each row"}, dependencies,
+      keydeck::Count{0});
+    v({"table", "the rows of the table: membrane elastic data, then field variables"}, table);
   }
 
   int dependencies = 0;
@@ -470,9 +493,11 @@ public:
 class kmaC_TransShearElastic {
 public:
   template <class V> void Fields(V& v) {
-    v("variableForce", variable, 0);
-    v("dependencies", dependencies, keydeck::Count{0});
-    v("table", table);
+    v({"variableForce", "1 when the table is given per unit force"}, variable, 0);
+    v({"dependencies", "the number of field-variable columns at the end of each row"}, dependencies,
+      keydeck::Count{0});
+    v({"table", "the rows of the table: transverse shear elastic data, then field variables"},
+      table);
   }
 
   int variable = 0; ///< 1: the table is given per unit force
@@ -484,8 +509,9 @@ public:
 class kmaC_ContactArea {
 public:
   template <class V> void Fields(V& v) {
-    v("dependencies", dependencies, keydeck::Count{0});
-    v("table", table);
+    v({"dependencies", "the number of field-variable columns at the end of each row"}, dependencies,
+      keydeck::Count{0});
+    v({"table", "the rows of the table: contact area data, then field variables"}, table);
   }
 
   int dependencies = 0;
@@ -501,16 +527,25 @@ public:
   static constexpr double yieldValueDef = 0.1;
 
   template <class V> void Fields(V& v) {
-    v("dependencies", dependencies, keydeck::Count{0});
-    v("tensileStiffnessFactor", tensileStiffnessFactor, tensileStiffnessFactorDef);
-    v("damage", damage, false);
-    v("unloadingDependencies", unloadingDependencies, keydeck::Count{0});
-    v("variable", variable, Stress);
-    v("yieldValue", yieldValue, yieldValueDef);
-    v("yieldOnset", yieldOnset, false);
-    v("loading", loading);
-    v("unloading", unloading, kmaC_MaterialTable());
-    v("contactArea", contactArea, std::optional<kmaC_ContactArea>());
+    v({"dependencies",
+       "the number of field-variable columns at the end of each row of the loading table"},
+      dependencies, keydeck::Count{0});
+    v({"tensileStiffnessFactor", "the tensile stiffness as a fraction of the initial compressive "
+                                 "stiffness"},
+      tensileStiffnessFactor, tensileStiffnessFactorDef);
+    v({"damage", "true for the damage model of unloading"}, damage, false);
+    v({"unloadingDependencies", "the number of field-variable columns of the unloading table"},
+      unloadingDependencies, keydeck::Count{0});
+    v({"variable", "whether the tables give the pressure as a stress or as a force"}, variable,
+      Stress);
+    v({"yieldValue", "the yield onset with yieldOnset, else the drop of the slope"}, yieldValue,
+      yieldValueDef);
+    v({"yieldOnset", "true when yieldValue gives the yield onset"}, yieldOnset, false);
+    v({"loading", "the rows of the loading table"}, loading);
+    v({"unloading", "the rows of the unloading table; empty for none"}, unloading,
+      kmaC_MaterialTable());
+    v({"contactArea", "the contact area of the gasket against closure"}, contactArea,
+      std::optional<kmaC_ContactArea>());
   }
 
   int dependencies = 0;
@@ -556,21 +591,35 @@ public:
   virtual unsigned DynTypeId() const { return TypeId(); }
 
   template <class V> void Fields(V& v) {
-    v("creep", creep, std::optional<kmaC_Creep>());
-    v("deformationPlasticity", deformationPlasticity, std::optional<kmaC_DeformationPlasticity>());
-    v("density", density, std::optional<kmaC_Density>());
-    v("elastic", elastic, std::optional<kmaC_Elastic>());
-    v("thicknessBehavior", thicknessBehavior, std::optional<kmaC_ThicknessBehavior>());
-    v("transShearElastic", transShearElastic, std::optional<kmaC_TransShearElastic>());
-    v("membraneElastic", membraneElastic, std::optional<kmaC_MembraneElastic>());
-    v("gel", gel, std::optional<kmaC_Gel>());
-    v("latentHeat", latentHeat, std::optional<kmaC_LatentHeat>());
-    v("plastic", plastic, std::optional<kmaC_Plastic>());
-    v("porousBulkModuli", porousBulkModuli, std::optional<kmaC_PorousBulkModuli>());
-    v("regularization", regularization, std::optional<kmaC_Regularization>());
-    v("solubility", solubility, std::optional<kmaC_Solubility>());
-    v("specificHeat", specificHeat, std::optional<kmaC_SpecificHeat>());
-    v("viscous", viscous, std::optional<kmaC_Viscous>());
+    v({"creep", "creep: the creep law and its constants"}, creep, std::optional<kmaC_Creep>());
+    v({"deformationPlasticity",
+       "deformation plasticity: Young's modulus, Poisson's ratio, yield stress, exponent and "
+       "yield offset, and an optional temperature"},
+      deformationPlasticity, std::optional<kmaC_DeformationPlasticity>());
+    v({"density", "the mass density"}, density, std::optional<kmaC_Density>());
+    v({"elastic", "elasticity: the elastic moduli"}, elastic, std::optional<kmaC_Elastic>());
+    v({"thicknessBehavior", "the thickness behaviour of a gasket"}, thicknessBehavior,
+      std::optional<kmaC_ThicknessBehavior>());
+    v({"transShearElastic", "the transverse shear elasticity of a gasket"}, transShearElastic,
+      std::optional<kmaC_TransShearElastic>());
+    v({"membraneElastic", "the membrane elasticity of a gasket"}, membraneElastic,
+      std::optional<kmaC_MembraneElastic>());
+    v({"gel", "gel swelling of a porous medium: 4 data columns"}, gel, std::optional<kmaC_Gel>());
+    v({"latentHeat", "the latent heat, with the solidus and liquidus temperatures"}, latentHeat,
+      std::optional<kmaC_LatentHeat>());
+    v({"plastic", "plasticity: the yield stress against plastic strain, with its companions"},
+      plastic, std::optional<kmaC_Plastic>());
+    v({"porousBulkModuli",
+       "the bulk moduli of the solid grains and of the permeating fluid, and an optional "
+       "temperature"},
+      porousBulkModuli, std::optional<kmaC_PorousBulkModuli>());
+    v({"regularization", "the regularization of the tables, on the material's own line"},
+      regularization, std::optional<kmaC_Regularization>());
+    v({"solubility", "the solubility of the diffusing substance"}, solubility,
+      std::optional<kmaC_Solubility>());
+    v({"specificHeat", "the specific heat"}, specificHeat, std::optional<kmaC_SpecificHeat>());
+    v({"viscous", "the viscous part of a two-layer viscoplastic model"}, viscous,
+      std::optional<kmaC_Viscous>());
   }
 
   /// True when the material carries a gasket behaviour.

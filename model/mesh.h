@@ -22,8 +22,8 @@ public:
   int GetUserNodeLabel(unsigned index) const { return labels.ConstGet(static_cast<int>(index)); }
 
   template <class V> void Fields(V& v) {
-    v("labels", labels);
-    v("coordinates", coordinates);
+    v({"labels", "the node labels, integers of 1 or more, each used once in the part"}, labels);
+    v({"coordinates", "the x, y, z coordinates of each node, in the order of labels"}, coordinates);
   }
 
   cow_List<int> labels;
@@ -61,6 +61,7 @@ private:
 /// `elementConnectivity()` holds node indices, row by row.
 class ddb_ElementClass {
 public:
+  static constexpr const char* Description = "elements of one type: labels and connectivity";
   const cow_String& elementTypeLabel() const { return type; }
   int numElements() const { return labels.Size(); }
   int numNodesPerElement() const { return connectivity.Cols(); }
@@ -71,9 +72,11 @@ public:
   shp_Shape shape() const { return keydeck::ShapeOfElementType(type); }
 
   template <class V> void Fields(V& v) {
-    v("type", type);
-    v("labels", labels);
-    v("connectivity", connectivity);
+    v({"type", "the element type of the deck, such as C3D8R or S4R (case-sensitive)"}, type);
+    v({"labels", "the element labels, integers of 1 or more, each used once in the part"}, labels);
+    v({"connectivity",
+       "the node labels of each element, one row per element in the order of labels"},
+      connectivity);
   }
 
   cow_String type;

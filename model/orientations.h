@@ -18,11 +18,15 @@ public:
   /// The local axis of the additional rotation.
   enum axisEnm : int { Axis1 = 0, Axis2 = 1, Axis3 = 2 };
 
+  static constexpr const char* Description =
+      "the local material directions of an element set of the part";
+
   template <class V> void Fields(V& v) {
-    v("region", regionName_);
-    v("datum", datumName_, cow_String());
-    v("axis", axis, Axis1);
-    v("angle", angle, 0.0);
+    v({"region", "the name of an element set of the part"}, regionName_);
+    v({"datum", "the name of a datum of the part; none for the user's own directions"}, datumName_,
+      cow_String());
+    v({"axis", "the local axis of the additional rotation"}, axis, Axis1);
+    v({"angle", "the additional rotation about that axis, in degrees"}, angle, 0.0);
   }
 
   cow_String regionName_; ///< an element set of the part
@@ -46,11 +50,15 @@ template <> struct keydeck::EnumTable<ptoC_MaterialOrientation::axisEnm> {
 /// part's frame. The loader refuses a direction of zero length.
 class ptoC_BeamOrientation {
 public:
+  static constexpr const char* Description =
+      "the approximate direction of the first section axis of the beams of an element set";
   gsl_Vector Direction() const { return {direction_[0], direction_[1], direction_[2]}; }
 
   template <class V> void Fields(V& v) {
-    v("region", regionName_);
-    v("direction", direction_);
+    v({"region", "the name of an element set of the part"}, regionName_);
+    v({"direction", "the approximate direction of the first section axis, in the part's frame, "
+                    "of non-zero length"},
+      direction_);
   }
 
   cow_String regionName_; ///< an element set of the part

@@ -257,6 +257,8 @@ namespace keydeck {
 
 /// The range form of a list of labels: {"generate": [first, last, step]}.
 struct LabelRange {
+  static constexpr const char* Description =
+      "a range of labels: first, first + step, ... as far as they do not pass last";
   std::array<int, 3> generate{0, 0, 1};
 
   int First() const { return generate[0]; }

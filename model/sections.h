@@ -18,18 +18,23 @@ public:
 /// has gasket options) and the four values of its data line.
 class kseC_GasketSection : public kseC_Section {
 public:
+  static constexpr const char* Description =
+      "a gasket section: its material and the values of its data line";
   kseC_Section* Copy() const override { return new kseC_GasketSection(*this); }
   static constexpr unsigned TypeId() { return keydeck::TypeIds::GasketSection; }
   static bool IsKindOf(unsigned id) { return id == TypeId(); }
   unsigned DynTypeId() const override { return TypeId(); }
 
   template <class V> void Fields(V& v) {
-    v("material", material, cow_String());
-    v("initialThickness", gasketValue2, keydeck::NotGivenDouble);
-    v("initialGap", gasketValue1, 0.0);
-    v("initialVoid", gasketValue3, 0.0);
-    v("crossSection", gasketValue0, 1.0);
-    v("stabilizationStiffness", stabilizationStiffness, keydeck::NotGivenDouble);
+    v({"material", "the name of the material of the gasket; none when left out"}, material,
+      cow_String());
+    v({"initialThickness", "the initial thickness; from the nodes when left out"}, gasketValue2,
+      keydeck::NotGivenDouble);
+    v({"initialGap", "the initial gap"}, gasketValue1, 0.0);
+    v({"initialVoid", "the initial void"}, gasketValue3, 0.0);
+    v({"crossSection", "the cross-sectional area of a link element"}, gasketValue0, 1.0);
+    v({"stabilizationStiffness", "the stabilization stiffness; the solver's own when left out"},
+      stabilizationStiffness, keydeck::NotGivenDouble);
   }
 
   cow_String material; ///< empty when not set
@@ -46,21 +51,23 @@ public:
 /// r4 = I23, r5 = I33.
 class kseC_PointSection : public kseC_Section {
 public:
+  static constexpr const char* Description =
+      "a point section: the mass and rotary inertia of a point";
   kseC_Section* Copy() const override { return new kseC_PointSection(*this); }
   static constexpr unsigned TypeId() { return keydeck::TypeIds::PointSection; }
   static bool IsKindOf(unsigned id) { return id == TypeId(); }
   unsigned DynTypeId() const override { return TypeId(); }
 
   template <class V> void Fields(V& v) {
-    v("mass", mass, 0.0);
-    v("alpha", alpha, 0.0);
-    v("composite", composite, 0.0);
-    v("i11", r0, 0.0);
-    v("i12", r1, 0.0);
-    v("i13", r2, 0.0);
-    v("i22", r3, 0.0);
-    v("i23", r4, 0.0);
-    v("i33", r5, 0.0);
+    v({"mass", "the mass"}, mass, 0.0);
+    v({"alpha", "the factor of mass-proportional damping"}, alpha, 0.0);
+    v({"composite", "the fraction of critical damping for composite damping"}, composite, 0.0);
+    v({"i11", "the rotary inertia I11 about the local axes"}, r0, 0.0);
+    v({"i12", "the rotary inertia I12 about the local axes"}, r1, 0.0);
+    v({"i13", "the rotary inertia I13 about the local axes"}, r2, 0.0);
+    v({"i22", "the rotary inertia I22 about the local axes"}, r3, 0.0);
+    v({"i23", "the rotary inertia I23 about the local axes"}, r4, 0.0);
+    v({"i33", "the rotary inertia I33 about the local axes"}, r5, 0.0);
   }
 
   double mass = 0;
@@ -73,16 +80,17 @@ public:
 /// inertia in the deck's order i11, i22, i33, i12, i13, i23.
 class kefC_PointMassInertia {
 public:
+  static constexpr const char* Description = "a point mass and its rotary inertia";
   template <class V> void Fields(V& v) {
-    v("mass", mass, 0.0);
-    v("alpha", alpha, 0.0);
-    v("composite", composite, 0.0);
-    v("i11", i11, 0.0);
-    v("i22", i22, 0.0);
-    v("i33", i33, 0.0);
-    v("i12", i12, 0.0);
-    v("i13", i13, 0.0);
-    v("i23", i23, 0.0);
+    v({"mass", "the mass"}, mass, 0.0);
+    v({"alpha", "the factor of mass-proportional damping"}, alpha, 0.0);
+    v({"composite", "the fraction of critical damping for composite damping"}, composite, 0.0);
+    v({"i11", "the rotary inertia I11 about the local axes"}, i11, 0.0);
+    v({"i22", "the rotary inertia I22 about the local axes"}, i22, 0.0);
+    v({"i33", "the rotary inertia I33 about the local axes"}, i33, 0.0);
+    v({"i12", "the rotary inertia I12 about the local axes"}, i12, 0.0);
+    v({"i13", "the rotary inertia I13 about the local axes"}, i13, 0.0);
+    v({"i23", "the rotary inertia I23 about the local axes"}, i23, 0.0);
   }
 
   double mass = 0;
@@ -97,15 +105,19 @@ public:
 /// or an orientation of its own by name.
 class kseC_RebarLayer {
 public:
+  static constexpr const char* Description = "one layer of rebar in a shell";
   template <class V> void Fields(V& v) {
-    v("name", name);
-    v("material", material);
-    v("area", area);
-    v("spacing", spacing, 0.0);
-    v("angularSpacing", angularSpacing, 0.0);
-    v("position", position, 0.0);
-    v("angle", rebarOrientation, 0.0);
-    v("orientation", orientationName, cow_String());
+    v({"name", "the name of the layer"}, name);
+    v({"material", "the name of the material of the bars"}, material);
+    v({"area", "the cross-sectional area of one bar"}, area);
+    v({"spacing", "the spacing of the bars, a length, with constant spacing"}, spacing, 0.0);
+    v({"angularSpacing", "the angle between the bars, with angular spacing"}, angularSpacing, 0.0);
+    v({"position", "the position of the layer in the thickness of the shell"}, position, 0.0);
+    v({"angle", "the angle of the bars to the first local direction, in degrees"}, rebarOrientation,
+      0.0);
+    v({"orientation",
+       "the name of an orientation of the layer's own; the shell's own directions when left out"},
+      orientationName, cow_String());
   }
 
   double area = 0;
@@ -121,11 +133,13 @@ public:
 /// The rebar layers of a shell section and how their spacing is given.
 class kseC_RebarLayers {
 public:
+  static constexpr const char* Description = "the rebar layers of a shell section";
   enum SpacingEnm : int { ConstantSpacing = 0, AngularSpacing = 1 };
 
   template <class V> void Fields(V& v) {
-    v("spacing", spacingKind, ConstantSpacing);
-    v("layers", layers);
+    v({"spacing", "whether the bars are spaced by a length (constant) or by an angle (angular)"},
+      spacingKind, ConstantSpacing);
+    v({"layers", "the layers of rebar"}, layers);
   }
 
   SpacingEnm spacingKind = ConstantSpacing;

@@ -82,6 +82,8 @@ template <> struct EnumTable<kprC_ProcedureEnm> {
 /// A load case of an analysis step; its name is its key in the step.
 class klcC_LoadCase {
 public:
+  static constexpr const char* Description =
+      "a load case of the step; it has no fields yet, its name is its key";
   virtual ~klcC_LoadCase() = default;
   virtual klcC_LoadCase* Copy() const { return new klcC_LoadCase(*this); }
   static constexpr unsigned TypeId() { return keydeck::TypeIds::LoadCase; }
@@ -110,7 +112,9 @@ public:
   virtual NlgeomEnm Nlgeom() const { return NlgeomOff; }
   static NlgeomEnm NlgeomOf(bool on) { return on ? NlgeomOn : NlgeomOff; }
 
-  template <class V> void Fields(V& v) { v("solverInput", solverInput, cow_String()); }
+  template <class V> void Fields(V& v) {
+    v({"solverInput", "raw solver text written at the end of the step"}, solverInput, cow_String());
+  }
 
   keydeck::SolverText solverInput; ///< raw solver text that closes the step, kept verbatim
 };
@@ -118,6 +122,8 @@ public:
 /// The initial step: the model state before the first analysis step.
 class kprC_InitialStep : public kprC_Step {
 public:
+  static constexpr const char* Description =
+      "the initial step: the state of the model before any analysis";
   kprC_Step* Copy() const override { return new kprC_InitialStep(*this); }
   static constexpr unsigned TypeId() { return keydeck::TypeIds::InitialStep; }
   static bool IsKindOf(unsigned id) { return id == TypeId(); }
@@ -138,10 +144,11 @@ public:
   bool isExplicit() const override;
 
   template <class V> void Fields(V& v) {
-    v("procedure", procedure);
-    v("description", description, cow_String());
+    v({"procedure", "the analysis procedure of the step"}, procedure);
+    v({"description", "one line written under the step's heading"}, description, cow_String());
     kprC_Step::Fields(v);
-    v("loadCases", loadCases, mdl_MapString2ObjCow<klcC_LoadCase>());
+    v({"loadCases", "the load cases of the step by name"}, loadCases,
+      mdl_MapString2ObjCow<klcC_LoadCase>());
   }
 
   kprC_ProcedureEnm procedure = kprC_Static;
@@ -299,12 +306,18 @@ struct kprC_Incrementation {
   double maxInc = keydeck::NotGivenDouble;
 
   template <class V> void IncrementationFields(V& v) {
-    v("timePeriod", timePeriod, 1.0);
-    v("maxIncrements", maxNumInc, 100);
-    v("incrementation", timeIncrementationMethod, kprC_AutomaticIncrements);
-    v("initialIncrement", initialInc, keydeck::NotGivenDouble);
-    v("minIncrement", minInc, keydeck::NotGivenDouble);
-    v("maxIncrement", maxInc, keydeck::NotGivenDouble);
+    v({"timePeriod", "the time period of the step, at least 0"}, timePeriod, 1.0);
+    v({"maxIncrements", "the most increments the step may take"}, maxNumInc, 100);
+    v({"incrementation", "automatic or fixed time increments"}, timeIncrementationMethod,
+      kprC_AutomaticIncrements);
+    v({"initialIncrement",
+       "the first time increment, at most the period; the period when left out"},
+      initialInc, keydeck::NotGivenDouble);
+    v({"minIncrement", "the smallest time increment; the lesser of the initial increment and "
+                       "1e-5 of the period when left out"},
+      minInc, keydeck::NotGivenDouble);
+    v({"maxIncrement", "the largest time increment; the period when left out"}, maxInc,
+      keydeck::NotGivenDouble);
   }
 };
 
@@ -314,8 +327,11 @@ struct kprC_Stabilization {
   double stabilizationMagnitude = 0.0002;
 
   template <class V> void StabilizationFields(V& v) {
-    v("stabilization", stabilizationMethod, kprC_NoStabilization);
-    v("stabilizationMagnitude", stabilizationMagnitude, 0.0002);
+    v({"stabilization", "automatic stabilization: none, by a dissipated energy fraction or by a "
+                        "damping factor"},
+      stabilizationMethod, kprC_NoStabilization);
+    v({"stabilizationMagnitude", "the energy fraction or damping factor of the stabilization"},
+      stabilizationMagnitude, 0.0002);
   }
 };
 
@@ -330,8 +346,10 @@ struct kprC_StepLineOptions {
   kprC_ExtrapolationEnm extrapolation = Extrapolation;
 
   template <class V> void StepLineFields(V& v) {
-    v("amplitude", amplitude, Amplitude);
-    v("extrapolation", extrapolation, Extrapolation);
+    v({"amplitude", "how loads reach their values in the step: at once (step) or linearly (ramp)"},
+      amplitude, Amplitude);
+    v({"extrapolation", "how the solver extrapolates the solution into each increment"},
+      extrapolation, Extrapolation);
   }
 };
 
@@ -339,25 +357,31 @@ struct kprC_StepLineOptions {
 struct kprC_MatrixStorageOption {
   kprC_MatrixStorageEnm matrixStorage = kprC_SolverDefaultStorage;
   template <class V> void MatrixStorageFields(V& v) {
-    v("matrixStorage", matrixStorage, kprC_SolverDefaultStorage);
+    v({"matrixStorage", "the storage of the equation solver's matrix"}, matrixStorage,
+      kprC_SolverDefaultStorage);
   }
 };
 
 /// Geometric nonlinearity of a step: off or on.
 struct kprC_NlgeomOption {
   bool nlgeom = false;
-  template <class V> void NlgeomFields(V& v) { v("nlgeom", nlgeom, false); }
+  template <class V> void NlgeomFields(V& v) {
+    v({"nlgeom", "true for geometric nonlinearity"}, nlgeom, false);
+  }
 };
 
 /// An anneal step: the model returns to its annealed state.
 class kprC_AnnealStep : public kprC_ProcedureStep<kprC_AnnealStep, kprC_Anneal>,
                         public kprC_NlgeomOption {
 public:
+  static constexpr const char* Description =
+      "an anneal step: the solver resets the plastic strains of the model";
   kprC_Step::NlgeomEnm Nlgeom() const override { return NlgeomOf(nlgeom); }
   template <class V> void Fields(V& v) {
     kprC_AnalysisStep::Fields(v);
     NlgeomFields(v);
-    v("temperature", temperature, keydeck::NotGivenDouble);
+    v({"temperature", "the temperature of the anneal; none when left out"}, temperature,
+      keydeck::NotGivenDouble);
   }
 
   double temperature = keydeck::NotGivenDouble; ///< the anneal temperature
@@ -372,6 +396,7 @@ class kprC_CoupledTempDisplacementStep
       public kprC_Incrementation,
       public kprC_Stabilization {
 public:
+  static constexpr const char* Description = "a coupled temperature-displacement step";
   kprC_Step::NlgeomEnm Nlgeom() const override { return NlgeomOf(nlgeom); }
   template <class V> void Fields(V& v) {
     kprC_AnalysisStep::Fields(v);
@@ -379,12 +404,15 @@ public:
     StepLineFields(v);
     MatrixStorageFields(v);
     IncrementationFields(v);
-    v("response", response, kprC_Transient);
-    v("creep", creep, kprC_ImplicitCreep);
-    v("deltmx", deltmx, 0.0);
-    v("cetol", cetol, 0.0);
+    v({"response", "transient or steady-state response"}, response, kprC_Transient);
+    v({"creep",
+       "how creep and viscoelasticity are integrated: implicitly, explicitly or not at all"},
+      creep, kprC_ImplicitCreep);
+    v({"deltmx", "the largest temperature change in an increment; 0 for no limit"}, deltmx, 0.0);
+    v({"cetol", "the creep strain error tolerance of an increment; 0 for none"}, cetol, 0.0);
     StabilizationFields(v);
-    v("solutionTechnique", solutionTechnique, kprC_FullNewton);
+    v({"solutionTechnique", "full Newton or separated solution of the coupled equations"},
+      solutionTechnique, kprC_FullNewton);
   }
 
   kprC_ResponseEnm response = kprC_Transient;
@@ -401,16 +429,20 @@ class kprC_CoupledThermalElectricStep
       public kprC_MatrixStorageOption,
       public kprC_Incrementation {
 public:
+  static constexpr const char* Description = "a coupled thermal-electric step";
   template <class V> void Fields(V& v) {
     kprC_AnalysisStep::Fields(v);
     StepLineFields(v);
     MatrixStorageFields(v);
     IncrementationFields(v);
-    v("response", response, kprC_Transient);
-    v("endValue", endValue, keydeck::NotGivenDouble);
-    v("deltmx", deltmx, 0.0);
-    v("mxdem", mxdem, 0.1);
-    v("solutionTechnique", solutionTechnique, kprC_FullNewton);
+    v({"response", "transient or steady-state response"}, response, kprC_Transient);
+    v({"endValue", "the temperature rate below which a transient step ends; none: the step "
+                   "ends with its period"},
+      endValue, keydeck::NotGivenDouble);
+    v({"deltmx", "the largest temperature change in an increment; 0 for no limit"}, deltmx, 0.0);
+    v({"mxdem", "the largest emissivity change in an increment"}, mxdem, 0.1);
+    v({"solutionTechnique", "full Newton or separated solution of the coupled equations"},
+      solutionTechnique, kprC_FullNewton);
   }
 
   kprC_ResponseEnm response = kprC_Transient;
@@ -432,13 +464,16 @@ struct kprC_ExplicitOptions {
   double quadBulkViscosity = 1.2;
 
   template <class V> void ExplicitFields(V& v) {
-    v("timePeriod", timePeriod, 1.0);
-    v("incrementation", timeIncrementationMethod, kprC_ExplicitAutomatic);
-    v("initialIncrement", initialInc, keydeck::NotGivenDouble);
-    v("maxIncrement", maxInc, keydeck::NotGivenDouble);
-    v("scaleFactor", scaleFactor, 1.0);
-    v("linearBulkViscosity", linearBulkViscosity, 0.06);
-    v("quadraticBulkViscosity", quadBulkViscosity, 1.2);
+    v({"timePeriod", "the time period of the step, at least 0"}, timePeriod, 1.0);
+    v({"incrementation", "how the solver sizes the time increments"}, timeIncrementationMethod,
+      kprC_ExplicitAutomatic);
+    v({"initialIncrement", "the fixed time increment, required with userFixed incrementation"},
+      initialInc, keydeck::NotGivenDouble);
+    v({"maxIncrement", "the largest time increment; no limit when left out"}, maxInc,
+      keydeck::NotGivenDouble);
+    v({"scaleFactor", "the factor on the stable time increment"}, scaleFactor, 1.0);
+    v({"linearBulkViscosity", "the linear bulk viscosity parameter"}, linearBulkViscosity, 0.06);
+    v({"quadraticBulkViscosity", "the quadratic bulk viscosity parameter"}, quadBulkViscosity, 1.2);
   }
 };
 
@@ -448,13 +483,14 @@ class kprC_ExplicitDynamicsStep
       public kprC_NlgeomOption,
       public kprC_ExplicitOptions {
 public:
+  static constexpr const char* Description = "a dynamic step of the explicit solver";
   kprC_ExplicitDynamicsStep() { nlgeom = true; }
   kprC_Step::NlgeomEnm Nlgeom() const override { return NlgeomOf(nlgeom); }
   template <class V> void Fields(V& v) {
     kprC_AnalysisStep::Fields(v);
-    v("nlgeom", nlgeom, true);
+    v({"nlgeom", "true for geometric nonlinearity"}, nlgeom, true);
     ExplicitFields(v);
-    v("adiabatic", adiabatic, false);
+    v({"adiabatic", "true for an adiabatic stress analysis"}, adiabatic, false);
   }
 
   bool adiabatic = false;
@@ -466,11 +502,13 @@ class kprC_TempDisplacementDynamicsStep
       public kprC_NlgeomOption,
       public kprC_ExplicitOptions {
 public:
+  static constexpr const char* Description =
+      "a coupled temperature-displacement step of the explicit solver";
   kprC_TempDisplacementDynamicsStep() { nlgeom = true; }
   kprC_Step::NlgeomEnm Nlgeom() const override { return NlgeomOf(nlgeom); }
   template <class V> void Fields(V& v) {
     kprC_AnalysisStep::Fields(v);
-    v("nlgeom", nlgeom, true);
+    v({"nlgeom", "true for geometric nonlinearity"}, nlgeom, true);
     ExplicitFields(v);
   }
 };
@@ -480,6 +518,8 @@ class kprC_GeostaticStep : public kprC_ProcedureStep<kprC_GeostaticStep, kprC_Ge
                            public kprC_NlgeomOption,
                            public kprC_MatrixStorageOption {
 public:
+  static constexpr const char* Description =
+      "a geostatic step: the initial stresses of the ground brought into equilibrium";
   kprC_Step::NlgeomEnm Nlgeom() const override { return NlgeomOf(nlgeom); }
   template <class V> void Fields(V& v) {
     kprC_AnalysisStep::Fields(v);
@@ -495,15 +535,18 @@ class kprC_HeatTransferStep
       public kprC_MatrixStorageOption,
       public kprC_Incrementation {
 public:
+  static constexpr const char* Description = "a heat transfer step";
   template <class V> void Fields(V& v) {
     kprC_AnalysisStep::Fields(v);
     StepLineFields(v);
     MatrixStorageFields(v);
     IncrementationFields(v);
-    v("response", response, kprC_Transient);
-    v("endValue", endValue, keydeck::NotGivenDouble);
-    v("deltmx", deltmx, 0.0);
-    v("mxdem", mxdem, 0.1);
+    v({"response", "transient or steady-state response"}, response, kprC_Transient);
+    v({"endValue", "the temperature rate below which a transient step ends; none: the step "
+                   "ends with its period"},
+      endValue, keydeck::NotGivenDouble);
+    v({"deltmx", "the largest temperature change in an increment; 0 for no limit"}, deltmx, 0.0);
+    v({"mxdem", "the largest emissivity change in an increment"}, mxdem, 0.1);
   }
 
   kprC_ResponseEnm response = kprC_Transient;
@@ -520,6 +563,7 @@ class kprC_ImplicitDynamicsStep
       public kprC_MatrixStorageOption,
       public kprC_Incrementation {
 public:
+  static constexpr const char* Description = "a dynamic step of the implicit solver";
   kprC_Step::NlgeomEnm Nlgeom() const override { return NlgeomOf(nlgeom); }
   template <class V> void Fields(V& v) {
     kprC_AnalysisStep::Fields(v);
@@ -527,12 +571,15 @@ public:
     StepLineFields(v);
     MatrixStorageFields(v);
     IncrementationFields(v);
-    v("alpha", alpha, keydeck::NotGivenDouble);
-    v("haftol", haftol, keydeck::NotGivenDouble);
-    v("noHaf", noHaf, false);
-    v("noStop", noStop, false);
-    v("adiabatic", adiabatic, false);
-    v("initialAcceleration", initialAcceleration, true);
+    v({"alpha", "the numerical damping parameter of the time integration; none when left out"},
+      alpha, keydeck::NotGivenDouble);
+    v({"haftol", "the half-increment residual tolerance, required with automatic increments"},
+      haftol, keydeck::NotGivenDouble);
+    v({"noHaf", "true to skip the half-increment residual check"}, noHaf, false);
+    v({"noStop", "true to go on through fixed increments that do not converge"}, noStop, false);
+    v({"adiabatic", "true for an adiabatic stress analysis"}, adiabatic, false);
+    v({"initialAcceleration", "false to skip the calculation of the initial accelerations"},
+      initialAcceleration, true);
   }
 
   double alpha = keydeck::NotGivenDouble;
@@ -549,13 +596,18 @@ class kprC_MassDiffusionStep
       public kprC_StepLineOptions<kprC_StepAmplitude, kprC_LinearExtrapolation>,
       public kprC_Incrementation {
 public:
+  static constexpr const char* Description = "a mass diffusion step";
   template <class V> void Fields(V& v) {
     kprC_AnalysisStep::Fields(v);
     StepLineFields(v);
     IncrementationFields(v);
-    v("response", response, kprC_Transient);
-    v("endValue", endValue, 0.0);
-    v("dcmax", dcmax, keydeck::NotGivenDouble);
+    v({"response", "transient or steady-state response"}, response, kprC_Transient);
+    v({"endValue", "the concentration rate below which a transient step ends; 0: the step "
+                   "ends with its period"},
+      endValue, 0.0);
+    v({"dcmax", "the largest normalized concentration change in an increment, required "
+                "with automatic increments"},
+      dcmax, keydeck::NotGivenDouble);
   }
 
   kprC_ResponseEnm response = kprC_Transient;
@@ -571,6 +623,8 @@ class kprC_SoilsStep : public kprC_ProcedureStep<kprC_SoilsStep, kprC_Soils>,
                        public kprC_Incrementation,
                        public kprC_Stabilization {
 public:
+  static constexpr const char* Description =
+      "a soils step: consolidation or steady-state flow through porous media";
   kprC_Step::NlgeomEnm Nlgeom() const override { return NlgeomOf(nlgeom); }
   template <class V> void Fields(V& v) {
     kprC_AnalysisStep::Fields(v);
@@ -578,11 +632,15 @@ public:
     StepLineFields(v);
     MatrixStorageFields(v);
     IncrementationFields(v);
-    v("response", response, kprC_Consolidation);
-    v("endValue", endValue, keydeck::NotGivenDouble);
-    v("utol", utol, 0.0);
-    v("creep", creep, true);
-    v("cetol", cetol, 0.0);
+    v({"response", "consolidation (transient) or steady-state response"}, response,
+      kprC_Consolidation);
+    v({"endValue", "the pore pressure rate below which a consolidation step ends; none: the "
+                   "step ends with its period"},
+      endValue, keydeck::NotGivenDouble);
+    v({"utol", "the largest pore pressure change in an increment; 0 for the solver's 1.0"}, utol,
+      0.0);
+    v({"creep", "false to leave creep out of the step"}, creep, true);
+    v({"cetol", "the creep strain error tolerance of an increment; 0 for none"}, cetol, 0.0);
     StabilizationFields(v);
   }
 
@@ -600,9 +658,11 @@ struct kprC_StaticOptions {
   keydeck::DeckName fullyPlastic; ///< region to be fully plastic; empty for none
 
   template <class V> void StaticFields(V& v) {
-    v("adiabatic", adiabatic, false);
-    v("noStop", noStop, false);
-    v("fullyPlastic", fullyPlastic, keydeck::DeckName());
+    v({"adiabatic", "true for an adiabatic stress analysis"}, adiabatic, false);
+    v({"noStop", "true to go on through fixed increments that do not converge"}, noStop, false);
+    v({"fullyPlastic", "the name of the region expected to become fully plastic; none when "
+                       "left out"},
+      fullyPlastic, keydeck::DeckName());
   }
 };
 
@@ -615,6 +675,7 @@ class kprC_StaticStep : public kprC_ProcedureStep<kprC_StaticStep, kprC_Static>,
                         public kprC_StaticOptions,
                         public kprC_Stabilization {
 public:
+  static constexpr const char* Description = "a static stress step";
   kprC_Step::NlgeomEnm Nlgeom() const override { return NlgeomOf(nlgeom); }
   template <class V> void Fields(V& v) {
     kprC_AnalysisStep::Fields(v);
@@ -634,6 +695,8 @@ class kprC_StaticRiksStep : public kprC_ProcedureStep<kprC_StaticRiksStep, kprC_
                             public kprC_MatrixStorageOption,
                             public kprC_StaticOptions {
 public:
+  static constexpr const char* Description =
+      "a static step by the modified Riks method, with an optional displacement limit";
   /// The arc length the Riks method does not bound.
   static constexpr double UnboundedArcIncrement = 1e36;
 
@@ -642,20 +705,27 @@ public:
   template <class V> void Fields(V& v) {
     kprC_AnalysisStep::Fields(v);
     NlgeomFields(v);
-    v("extrapolation", extrapolation, kprC_LinearExtrapolation);
+    v({"extrapolation", "how the solver extrapolates the solution into each increment"},
+      extrapolation, kprC_LinearExtrapolation);
     MatrixStorageFields(v);
-    v("maxIncrements", maxNumInc, 100);
-    v("incrementation", timeIncrementationMethod, kprC_AutomaticIncrements);
-    v("initialArcIncrement", initialArcInc, 1.0);
-    v("totalArcLength", totalArcLength, 1.0);
-    v("minArcIncrement", minArcInc, 1e-5);
-    v("maxArcIncrement", maxArcInc, UnboundedArcIncrement);
-    v("maxLoadProportionalityFactor", maxLPF, keydeck::NotGivenDouble);
+    v({"maxIncrements", "the most increments the step may take"}, maxNumInc, 100);
+    v({"incrementation", "automatic or fixed arc length increments"}, timeIncrementationMethod,
+      kprC_AutomaticIncrements);
+    v({"initialArcIncrement", "the first arc length increment"}, initialArcInc, 1.0);
+    v({"totalArcLength", "the total arc length scale factor of the step"}, totalArcLength, 1.0);
+    v({"minArcIncrement", "the smallest arc length increment"}, minArcInc, 1e-5);
+    v({"maxArcIncrement", "the largest arc length increment; 1e36 for no limit"}, maxArcInc,
+      UnboundedArcIncrement);
+    v({"maxLoadProportionalityFactor", "the load proportionality factor at which the step ends; "
+                                       "no limit when left out"},
+      maxLPF, keydeck::NotGivenDouble);
     StaticFields(v);
-    v("longTerm", longTerm, false);
-    v("limitNode", limitNode, cow_String());
-    v("limitDof", limitDof, 1);
-    v("limitValue", limitValue, 0.0);
+    v({"longTerm", "true for the long-term response of viscoelastic materials"}, longTerm, false);
+    v({"limitNode", "the node set whose displacement ends the step, by region name such as "
+                    "Tip or Beam-1.Tip; no limit when left out"},
+      limitNode, cow_String());
+    v({"limitDof", "the degree of freedom of the displacement limit"}, limitDof, 1);
+    v({"limitValue", "the displacement at which the step ends"}, limitValue, 0.0);
   }
 
   kprC_ExtrapolationEnm extrapolation = kprC_LinearExtrapolation;
@@ -681,6 +751,7 @@ class kprC_ViscoStep : public kprC_ProcedureStep<kprC_ViscoStep, kprC_Visco>,
                        public kprC_Incrementation,
                        public kprC_Stabilization {
 public:
+  static constexpr const char* Description = "a transient viscoelastic or creep step";
   kprC_Step::NlgeomEnm Nlgeom() const override { return NlgeomOf(nlgeom); }
   template <class V> void Fields(V& v) {
     kprC_AnalysisStep::Fields(v);
@@ -688,8 +759,12 @@ public:
     StepLineFields(v);
     MatrixStorageFields(v);
     IncrementationFields(v);
-    v("cetol", cetol, keydeck::NotGivenDouble);
-    v("creep", creep, kprC_ImplicitCreep);
+    v({"cetol", "the creep strain error tolerance of an increment, required with automatic "
+                "increments"},
+      cetol, keydeck::NotGivenDouble);
+    v({"creep",
+       "how creep and viscoelasticity are integrated: implicitly, explicitly or not at all"},
+      creep, kprC_ImplicitCreep);
     StabilizationFields(v);
   }
 

@@ -44,12 +44,12 @@ template <> struct MapEntryClass<kmaC_Material> { using Type = kmaC_Material; };
 /// A step as the file gives it: its name, then the step's own fields. The
 /// model keeps the name as the step's key.
 template <class Step> struct NamedStep {
-  static constexpr const char* Description = "a step: its name and what it does";
+  static constexpr const char* Description = Step::Description;
   cow_String name;
   Step step;
 
   template <class V> void Fields(V& v) {
-    v("name", name);
+    v({"name", "the name of the step, unique in the model"}, name);
     step.Fields(v);
   }
 };
@@ -73,6 +73,7 @@ struct FileVersion {
 
 /// The top level of a model file.
 struct ModelFile {
+  static constexpr const char* Description = "models for keydeck to write as input decks";
   FileFormat format = FileFormat::KeydeckModel;
   FileVersion version;
   cow_Btree<cow_String, ddb_Model> models;

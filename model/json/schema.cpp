@@ -191,7 +191,7 @@ private:
     template <class M> void operator()(FieldName name, M& member) {
       writer_.out_.Key(name);
       if (!kind_.field.empty() && kind_.field == name)
-        return writer_.Const(kind_.word);
+        return writer_.Const(kind_.word, name.description);
       writer_.out_.OpenObject();
       writer_.described_ = false;
       writer_.Description(name.description);
@@ -229,11 +229,16 @@ private:
       if (option.holder != holder)
         continue;
       out_.Key(option.key);
-      EmptyObject();
+      out_.OpenObject();
+      described_ = false;
+      Description("a behaviour that the deck leaves out: any value is accepted, with a warning");
+      out_.CloseObject();
     }
   }
-  void Const(std::string_view word) {
+  void Const(std::string_view word, const char* description) {
     out_.OpenObject();
+    described_ = false;
+    Description(description);
     out_.Key("const");
     out_.String(word);
     out_.CloseObject();
@@ -391,7 +396,7 @@ private:
   }
 
   JsonText& out_;
-  KindWord kind_; // for the next record's properties only
+  KindWord kind_;          // for the next record's properties only
   bool described_ = false; // the schema object being written has its description
 };
 
