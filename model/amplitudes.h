@@ -13,8 +13,11 @@
 /// correction intervals.
 class kamC_BaselineCorrection {
 public:
+  static constexpr const char* Description =
+      "a baseline correction: the times that bound its correction intervals";
   template <class V> void Fields(V& v) {
-    v("correctionIntervals", correctionIntervals, cow_List<double>());
+    v({"correctionIntervals", "the times that end each correction interval, in increasing order"},
+      correctionIntervals, cow_List<double>());
   }
 
   cow_List<double> correctionIntervals;
@@ -72,8 +75,9 @@ public:
   virtual std::optional<keydeck::RecordFault> CheckData() const { return std::nullopt; }
 
   template <class V> void Fields(V& v) {
-    v("type", type);
-    v("timeSpan", timeSpan, StepTime);
+    v({"type", "the kind of amplitude, which decides its other fields"}, type);
+    v({"timeSpan", "the time the amplitude runs on: the step's own or the total time"}, timeSpan,
+      StepTime);
   }
 
   kamC_AmplitudeTypeEnm type = kamC_TabularType; ///< the kind, which is the class
@@ -114,12 +118,14 @@ std::optional<RecordFault> PairTableFault(const cow_List<double>& data, const ch
 /// Values at given times: "*Amplitude" with its table.
 class kamC_Tabular : public keydeck::AmplitudeKind<kamC_Tabular, kamC_TabularType> {
 public:
+  static constexpr const char* Description = "an amplitude of values at given times";
   std::optional<keydeck::RecordFault> CheckData() const override;
   template <class V> void Fields(V& v) {
     kamC_Amplitude::Fields(v);
-    v("smooth", smooth, keydeck::NotGivenDouble);
-    v("data", data, cow_List<double>());
-    v("baseline", baseline, std::nullopt);
+    v({"smooth", "the smoothing fraction; the solver's default when left out"}, smooth,
+      keydeck::NotGivenDouble);
+    v({"data", "time, value, time, value, ...; times must not decrease"}, data, cow_List<double>());
+    v({"baseline", "a baseline correction; none when left out"}, baseline, std::nullopt);
   }
 
   double smooth = keydeck::NotGivenDouble;
@@ -131,13 +137,15 @@ public:
 class kamC_EquallySpaced
     : public keydeck::AmplitudeKind<kamC_EquallySpaced, kamC_EquallySpacedType> {
 public:
+  static constexpr const char* Description = "an amplitude of values a fixed time interval apart";
   template <class V> void Fields(V& v) {
     kamC_Amplitude::Fields(v);
-    v("fixedInterval", fixedInterval);
-    v("begin", begin, 0.0);
-    v("smooth", smooth, keydeck::NotGivenDouble);
-    v("data", data, cow_List<double>());
-    v("baseline", baseline, std::nullopt);
+    v({"fixedInterval", "the time between two values"}, fixedInterval);
+    v({"begin", "the time of the first value"}, begin, 0.0);
+    v({"smooth", "the smoothing fraction; the solver's default when left out"}, smooth,
+      keydeck::NotGivenDouble);
+    v({"data", "the values, one per interval"}, data, cow_List<double>());
+    v({"baseline", "a baseline correction; none when left out"}, baseline, std::nullopt);
   }
 
   double fixedInterval = 0;
@@ -150,13 +158,15 @@ public:
 /// A Fourier series: a constant and terms of a circular frequency.
 class kamC_Periodic : public keydeck::AmplitudeKind<kamC_Periodic, kamC_PeriodicType> {
 public:
+  static constexpr const char* Description =
+      "an amplitude given as a Fourier series: a constant and terms of a circular frequency";
   std::optional<keydeck::RecordFault> CheckData() const override;
   template <class V> void Fields(V& v) {
     kamC_Amplitude::Fields(v);
-    v("frequency", frequency);
-    v("start", start, 0.0);
-    v("a0", a0, 0.0);
-    v("data", data, cow_List<double>());
+    v({"frequency", "the circular frequency of the series, in radians per unit time"}, frequency);
+    v({"start", "the time at which the series starts"}, start, 0.0);
+    v({"a0", "the constant term"}, a0, 0.0);
+    v({"data", "the terms of the series: A1, B1, A2, B2, ..."}, data, cow_List<double>());
   }
 
   double frequency = 0;
@@ -168,13 +178,15 @@ public:
 /// A sine wave whose amplitude is a sine wave itself.
 class kamC_Modulated : public keydeck::AmplitudeKind<kamC_Modulated, kamC_ModulatedType> {
 public:
+  static constexpr const char* Description =
+      "a modulated amplitude: a0 + a sin(frequency1 (t - start)) sin(frequency2 (t - start))";
   template <class V> void Fields(V& v) {
     kamC_Amplitude::Fields(v);
-    v("a0", a0);
-    v("a", a);
-    v("start", start);
-    v("frequency1", frequency1);
-    v("frequency2", frequency2);
+    v({"a0", "the constant term"}, a0);
+    v({"a", "the amplitude of the modulated sine"}, a);
+    v({"start", "the time at which the amplitude starts"}, start);
+    v({"frequency1", "the first circular frequency, in radians per unit time"}, frequency1);
+    v({"frequency2", "the second circular frequency, in radians per unit time"}, frequency2);
   }
 
   double a0 = 0;
@@ -187,12 +199,14 @@ public:
 /// An exponential decay from a start time.
 class kamC_Decay : public keydeck::AmplitudeKind<kamC_Decay, kamC_DecayType> {
 public:
+  static constexpr const char* Description =
+      "an exponential decay: a0 + a exp(-(t - start) / decayTime) from the start time";
   template <class V> void Fields(V& v) {
     kamC_Amplitude::Fields(v);
-    v("a0", a0);
-    v("a", a);
-    v("start", start);
-    v("decayTime", decayTime);
+    v({"a0", "the constant term"}, a0);
+    v({"a", "the amplitude of the decaying term"}, a);
+    v({"start", "the time at which the decay starts"}, start);
+    v({"decayTime", "the time in which the decaying term falls by the factor e"}, decayTime);
   }
 
   double a0 = 0;
@@ -205,11 +219,13 @@ public:
 class kamC_SolutionDependent
     : public keydeck::AmplitudeKind<kamC_SolutionDependent, kamC_SolutionDependentType> {
 public:
+  static constexpr const char* Description =
+      "an amplitude that the solver adapts to the solution, within bounds";
   template <class V> void Fields(V& v) {
     kamC_Amplitude::Fields(v);
-    v("initialValue", initialValue);
-    v("minimum", minimum);
-    v("maximum", maximum);
+    v({"initialValue", "the value at the start"}, initialValue);
+    v({"minimum", "the smallest value the solver may choose"}, minimum);
+    v({"maximum", "the largest value the solver may choose"}, maximum);
   }
 
   double initialValue = 0;
@@ -220,10 +236,12 @@ public:
 /// Values at given times, joined by smooth steps.
 class kamC_SmoothStep : public keydeck::AmplitudeKind<kamC_SmoothStep, kamC_SmoothStepType> {
 public:
+  static constexpr const char* Description =
+      "an amplitude of values at given times, joined by smooth steps";
   std::optional<keydeck::RecordFault> CheckData() const override;
   template <class V> void Fields(V& v) {
     kamC_Amplitude::Fields(v);
-    v("data", data, cow_List<double>());
+    v({"data", "time, value, time, value, ...; times must not decrease"}, data, cow_List<double>());
   }
 
   cow_List<double> data; ///< time, value, time, value, ...

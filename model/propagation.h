@@ -47,8 +47,11 @@ template <class State> struct StepChange {
   std::optional<mdl_PropagationStatusEnm> status;
   State state;
 
+  static constexpr const char* Description =
+      "what a later step changes: attributes, or a status word such as \"deactivated\"";
   template <class V> void Fields(V& v) {
-    v("status", status, std::nullopt);
+    v({"status", "the record's status in this step, where the attributes alone do not say it"},
+      status, std::nullopt);
     state.Fields(v);
   }
 };
@@ -128,8 +131,8 @@ public:
 
   /// The fields every step-dependent record has.
   template <class V> void PropagationFields(V& v) {
-    v("createdIn", createdIn);
-    v("suppressed", suppressed, false);
+    v({"createdIn", "the name of the step that creates the record"}, createdIn);
+    v({"suppressed", "true to leave the record out of the deck"}, suppressed, false);
   }
 
   cow_String createdIn; ///< the step that creates the record
@@ -176,7 +179,8 @@ public:
   template <class V> void StateFields(V& v) {
     this->PropagationFields(v);
     created.Fields(v);
-    v("steps", changes, cow_Btree<cow_String, keydeck::StepChange<State>>());
+    v({"steps", "what later steps change, by step name"}, changes,
+      cow_Btree<cow_String, keydeck::StepChange<State>>());
   }
 
   State created; ///< the attributes set in the creating step

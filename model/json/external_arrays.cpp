@@ -224,15 +224,24 @@ void ReadRows(const ExternalArray& array, cow_2DArray<T>& out, const char* empty
   ReadInto(array, &out.Get(0, 0), fault);
 }
 
-} // namespace
-
-void ReadIntegers(const ExternalArray& array, cow_List<int>& out, const ArrayFaultSink& fault) {
+template <class T>
+void ReadList(const ExternalArray& array, cow_List<T>& out, const ArrayFaultSink& fault) {
   if (!Fits(array, 1, fault))
     return;
-  out = cow_List<int>();
+  out = cow_List<T>();
   out.Resize(static_cast<int>(array.shape[0]));
   if (out.Size() > 0)
     ReadInto(array, &out.Get(0), fault);
+}
+
+} // namespace
+
+void ReadIntegers(const ExternalArray& array, cow_List<int>& out, const ArrayFaultSink& fault) {
+  ReadList(array, out, fault);
+}
+
+void ReadReals(const ExternalArray& array, cow_List<double>& out, const ArrayFaultSink& fault) {
+  ReadList(array, out, fault);
 }
 
 void ReadCoordinates(const ExternalArray& array, uti_CoordCont3D& out,

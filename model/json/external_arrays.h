@@ -60,6 +60,7 @@ using ArrayFaultSink =
 /// and each value as the file's reader checks the JSON array in its place,
 /// with the same messages; integers may come as reals that hold whole numbers.
 void ReadIntegers(const ExternalArray& array, cow_List<int>& out, const ArrayFaultSink& fault);
+void ReadReals(const ExternalArray& array, cow_List<double>& out, const ArrayFaultSink& fault);
 void ReadCoordinates(const ExternalArray& array, uti_CoordCont3D& out, const ArrayFaultSink& fault);
 /// `emptyRow` is the message for rows of no values.
 void ReadIntegerRows(const ExternalArray& array, cow_2DArray<int>& out, const char* emptyRow,

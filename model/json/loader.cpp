@@ -925,6 +925,10 @@ void Reader::Read(od::value value, cow_List<int>& out) {
 }
 
 void Reader::Read(od::value value, cow_List<double>& out) {
+  if (const ExternalArray* external = External(value)) {
+    ReadReals(*external, out, ExternalFaults());
+    return;
+  }
   od::array array;
   int count = 0;
   if (!GetArray(value, array) || !CountItems(array, count))

@@ -90,7 +90,7 @@ TEST_F(PublicModel, FailedWritesSayWhyAndLeaveNoFile) {
   EXPECT_EQ(ErrorOf([&] { model.Write("job", folder_.string(), "Other"); }),
             "no model named \"Other\"");
   EXPECT_EQ(ErrorOf([&] { model.Write("job", nowhere); }),
-            "cannot write a deck in \"" + nowhere + "\": No such file or directory");
+            "the output folder \"" + nowhere + "\" does not exist");
   EXPECT_EQ(ErrorOf([&] { model.Write("a/b", folder_.string()); }),
             "the job name \"a/b\" is not a file name");
   EXPECT_TRUE(Files().empty());

@@ -90,7 +90,7 @@ TEST_F(Resources, RangesOverLabelsThatDoNotExist) {
   const long long bytes =
       WriteModel(model, 10,
                  R"("Far": {"nodes": {"generate": [1, 2000000000, 1]}},)"
-                 R"("Huge": {"elements": {"generate": [700, 2147483647, 1000]}})");
+                 R"("Huge": {"elements": {"generate": [700, 2147483000, 1000]}})");
   const Outcome run = RunKeydeck({"write", model.string(), "-o", Out().string()}, folder_);
   EXPECT_EQ(run.status, 1);
   EXPECT_EQ(run.err,

@@ -205,10 +205,12 @@ def test_python_values_that_json_cannot_hold_are_refused_with_the_path(value, me
 
 
 def test_check_lists_warnings_with_path_and_kind():
-    model = keydeck.load(GOLDEN / "bracket.json")
-    problems = model.check()
-    assert problems and all(p.kind == "warning" for p in problems)
-    assert "models/Default Model/steps/1" in [p.path for p in problems]
+    d = golden_dict("bracket")
+    at(d, BRACKET + ["elements"])[0]["type"] = "C3D8RR"
+    problems = keydeck.Model.from_dict(d).check()
+    assert [p.kind for p in problems] == ["warning"]
+    assert problems[0].path == "/".join(BRACKET + ["elements", "0", "type"])
+    assert 'did you mean "C3D8R"?' in problems[0].message
 
 
 def test_write_is_whole_or_nothing(tmp_path):
