@@ -17,8 +17,6 @@ namespace {
 namespace fs = std::filesystem;
 using keydeck::test::Outcome;
 using keydeck::test::ReadFile;
-
-using keydeck::test::Outcome;
 using keydeck::test::RunKeydeck;
 
 int CountLines(const std::string& text) {
