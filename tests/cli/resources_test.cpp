@@ -72,7 +72,7 @@ TEST_F(Resources, RangesCostNoMemoryPerLabel) {
             "\": {\"nodes\": {\"generate\": [1, 27000, " + std::to_string(1 + i % 3) + "]}}" +
             (",\n\"E" + std::to_string(i)) + "\": {\"elements\": {\"generate\": [1, 24389, 1]}}";
   const fs::path model = folder_ / "ranges.json";
-  const long long bytes = WriteModel(model, 30, sets);
+  [[maybe_unused]] const long long bytes = WriteModel(model, 30, sets);
   const Outcome run =
       RunKeydeck({"write", model.string(), "-o", Out().string(), "-j", "job", "-q"}, folder_);
   ASSERT_EQ(run.status, 0) << run.err;
@@ -87,7 +87,7 @@ TEST_F(Resources, RangesCostNoMemoryPerLabel) {
 
 TEST_F(Resources, RangesOverLabelsThatDoNotExist) {
   const fs::path model = folder_ / "beyond.json";
-  const long long bytes =
+  [[maybe_unused]] const long long bytes =
       WriteModel(model, 10,
                  R"("Far": {"nodes": {"generate": [1, 2000000000, 1]}},)"
                  R"("Huge": {"elements": {"generate": [700, 2147483000, 1000]}})");
