@@ -15,14 +15,8 @@ namespace {
 namespace fs = std::filesystem;
 using keydeck::test::ReadFile;
 
-class AmplitudesCommand : public ::testing::Test {
+class AmplitudesCommand : public keydeck::test::CommandTest {
 protected:
-  void SetUp() override {
-    folder_ = fs::temp_directory_path() / ("keydeck-amplitudes-" + std::to_string(getpid()));
-    fs::create_directories(folder_);
-  }
-  void TearDown() override { fs::remove_all(folder_); }
-
   // Writes the model whose amplitudes are `amplitudes` and runs
   // "keydeck write" on it; returns the exit status, with stderr in `err`.
   int Write(const std::string& amplitudes, std::string& err) const {
@@ -36,8 +30,6 @@ protected:
     return outcome.status;
   }
   std::string Deck() const { return ReadFile((folder_ / "model.inp").string()); }
-
-  fs::path folder_;
 };
 
 TEST_F(AmplitudesCommand, CardsStandWithTheModelDataInNameOrder) {

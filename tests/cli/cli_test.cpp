@@ -1,7 +1,7 @@
 // The keydeck command as a user meets it: exit status, messages, and what it
 // leaves in the output folder.
-#include "tests/support/run_keydeck.h"
 #include "tests/support/deck_text.h"
+#include "tests/support/run_keydeck.h"
 
 #include <gtest/gtest.h>
 #include <simdjson.h>
@@ -23,32 +23,13 @@ int CountLines(const std::string& text) {
   return static_cast<int>(std::count(text.begin(), text.end(), '\n'));
 }
 
-class Command : public ::testing::Test {
+class Command : public keydeck::test::CommandTest {
 protected:
-  void SetUp() override {
-    folder_ = fs::temp_directory_path() /
-              ("keydeck-cli-" + std::to_string(getpid()) + "-" +
-               ::testing::UnitTest::GetInstance()->current_test_info()->name());
-    fs::remove_all(folder_);
-    fs::create_directories(folder_ / "out");
-  }
-  void TearDown() override { fs::remove_all(folder_); }
-
   fs::path Model(const std::string& name, const std::string& text) const {
     const fs::path path = folder_ / name;
     std::ofstream(path, std::ios::binary) << text;
     return path;
   }
-  fs::path Out() const { return folder_ / "out"; }
-  std::vector<std::string> Written() const {
-    std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(Out()))
-      names.push_back(entry.path().filename().string());
-    std::sort(names.begin(), names.end());
-    return names;
-  }
-
-  fs::path folder_;
 };
 
 const char* const GoodModel = R"({"format": "keydeck-model", "version": 1,

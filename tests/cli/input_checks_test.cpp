@@ -42,17 +42,8 @@ int CountLines(const std::string& text) {
   return static_cast<int>(std::count(text.begin(), text.end(), '\n'));
 }
 
-class InputChecks : public ::testing::Test {
+class InputChecks : public keydeck::test::CommandTest {
 protected:
-  void SetUp() override {
-    folder_ = fs::temp_directory_path() /
-              ("keydeck-input-" + std::to_string(getpid()) + "-" +
-               ::testing::UnitTest::GetInstance()->current_test_info()->name());
-    fs::remove_all(folder_);
-    fs::create_directories(folder_);
-  }
-  void TearDown() override { fs::remove_all(folder_); }
-
   Outcome Run(const std::vector<std::string>& args) const {
     return RunKeydeck(args, folder_.string());
   }
@@ -79,7 +70,6 @@ protected:
     EXPECT_EQ(CountLines(run.err), 1) << run.err;
   }
 
-  fs::path folder_;
   int models_ = 0;
 };
 

@@ -29,24 +29,8 @@ using keydeck::test::RunKeydeck;
 // libraries and the fixed tables of the writer.
 constexpr long AllowanceKilobytes = 32 * 1024;
 
-class Resources : public ::testing::Test {
+class Resources : public keydeck::test::CommandTest {
 protected:
-  void SetUp() override {
-    folder_ = fs::temp_directory_path() /
-              ("keydeck-resources-" + std::to_string(getpid()) + "-" +
-               ::testing::UnitTest::GetInstance()->current_test_info()->name());
-    fs::remove_all(folder_);
-    fs::create_directories(Out());
-  }
-  void TearDown() override { fs::remove_all(folder_); }
-
-  fs::path Out() const { return folder_ / "out"; }
-  std::vector<std::string> Written() const {
-    std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(Out()))
-      names.push_back(entry.path().filename().string());
-    return names;
-  }
   /// A block of `size`^3 nodes with `sets` as the part's sets; returns the
   /// file's size in bytes.
   long long WriteModel(const fs::path& path, int size, const std::string& sets) const {
@@ -59,8 +43,6 @@ protected:
     std::ofstream(path, std::ios::binary) << text;
     return static_cast<long long>(text.size());
   }
-
-  fs::path folder_;
 };
 
 TEST_F(Resources, RangesCostNoMemoryPerLabel) {

@@ -3,8 +3,8 @@
 #include "bench/benchmark_model.h"
 #include "model/json/loader.h"
 #include "oif/oif_Writer.h"
-#include "tests/support/run_keydeck.h"
 #include "tests/support/deck_text.h"
+#include "tests/support/run_keydeck.h"
 
 #include <gtest/gtest.h>
 
@@ -52,26 +52,12 @@ const char* const SmallModel = R"({"format": "keydeck-model", "version": 1,
   "models": {"Default Model": {"parts": {"P": {}},
     "assembly": {"instances": {"P-1": {"part": "P"}}}}}})";
 
-class SafeWrite : public ::testing::Test {
+class SafeWrite : public keydeck::test::CommandTest {
 protected:
   void SetUp() override {
-    folder_ = fs::temp_directory_path() /
-              ("keydeck-safe-" + std::to_string(getpid()) + "-" +
-               ::testing::UnitTest::GetInstance()->current_test_info()->name());
-    fs::remove_all(folder_);
-    fs::create_directories(Out());
+    CommandTest::SetUp();
     small_ = folder_ / "small.json";
     std::ofstream(small_) << SmallModel;
-  }
-  void TearDown() override { fs::remove_all(folder_); }
-
-  fs::path Out() const { return folder_ / "out"; }
-  std::vector<std::string> Written() const {
-    std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(Out()))
-      names.push_back(entry.path().filename().string());
-    std::sort(names.begin(), names.end());
-    return names;
   }
   /// A model whose write takes long enough to be caught in the middle.
   fs::path LargeModel() const {
@@ -101,7 +87,6 @@ protected:
     return {pid, ""};
   }
 
-  fs::path folder_;
   fs::path small_;
 };
 

@@ -16,17 +16,8 @@ using keydeck::test::Outcome;
 using keydeck::test::ReadFile;
 using keydeck::test::RunKeydeck;
 
-class StepCommand : public ::testing::Test {
+class StepCommand : public keydeck::test::CommandTest {
 protected:
-  void SetUp() override {
-    folder_ = fs::temp_directory_path() /
-              ("keydeck-steps-" + std::to_string(getpid()) + "-" +
-               ::testing::UnitTest::GetInstance()->current_test_info()->name());
-    fs::remove_all(folder_);
-    fs::create_directories(folder_);
-  }
-  void TearDown() override { fs::remove_all(folder_); }
-
   // Writes a model whose steps after the initial one are `steps`, runs
   // `keydeck write` on it.
   Outcome Write(const std::string& steps) {
@@ -41,8 +32,6 @@ protected:
   }
   std::string Deck() const { return ReadFile((folder_ / "job.inp").string()); }
   bool DeckExists() const { return fs::exists(folder_ / "job.inp"); }
-
-  fs::path folder_;
 };
 
 TEST_F(StepCommand, WritesStepCardAndProcedureWithoutWarning) {

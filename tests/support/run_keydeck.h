@@ -5,6 +5,9 @@
 
 #include "tests/support/deck_text.h"
 
+#include <gtest/gtest.h>
+
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <string>
@@ -68,5 +71,32 @@ inline Outcome RunKeydeck(const std::vector<std::string>& args, const std::files
                           const std::filesystem::path& input = {}) {
   return FinishKeydeck(StartKeydeck(args, folder, input), folder);
 }
+
+/// A test of the command with a fresh folder of its own, `folder_`, holding an
+/// empty output folder `Out()`; both go when the test ends.
+class CommandTest : public ::testing::Test {
+protected:
+  void SetUp() override {
+    const ::testing::TestInfo* test = ::testing::UnitTest::GetInstance()->current_test_info();
+    folder_ = std::filesystem::temp_directory_path() /
+              ("keydeck-" + std::string(test->test_suite_name()) + "-" + std::to_string(getpid()) +
+               "-" + test->name());
+    std::filesystem::remove_all(folder_);
+    std::filesystem::create_directories(Out());
+  }
+  void TearDown() override { std::filesystem::remove_all(folder_); }
+
+  std::filesystem::path Out() const { return folder_ / "out"; }
+  /// The names in `Out()`, sorted.
+  std::vector<std::string> Written() const {
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(Out()))
+      names.push_back(entry.path().filename().string());
+    std::sort(names.begin(), names.end());
+    return names;
+  }
+
+  std::filesystem::path folder_;
+};
 
 } // namespace keydeck::test
