@@ -81,7 +81,7 @@ template <class K> void oif_Step::WriteParameters(utl_Stream& s, const K& step) 
   if constexpr (requires { K::DefaultExtrapolation; }) {
     WriteExtrapolation(s, step.extrapolation, K::DefaultExtrapolation);
     if (step.amplitude != K::DefaultAmplitude)
-      WriteParameter(s, "amplitude=", step.amplitude == kprC_StepAmplitude ? "STEP" : "RAMP");
+      WriteParameter(s, "amplitude=", FindEnumEntry(step.amplitude)->deckText.data());
   }
   if constexpr (requires { step.maxNumInc; })
     WriteParameter(s, "inc=", step.maxNumInc, 100);

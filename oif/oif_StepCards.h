@@ -39,10 +39,6 @@ void WriteIncrements(utl_Stream& s, const kprC_Incrementation& increments,
 void WriteThermalIncrements(utl_Stream& s, const kprC_Incrementation& increments,
                             const char* fixedLimits);
 
-} // namespace keydeck
-
-namespace keydeck {
-
 /// The incrementation parameters of an explicit procedure, the end of its
 /// keyword line and its data line; `corrupt` is the failure text for an
 /// incrementation outside the four the solver knows.
