@@ -8,6 +8,7 @@
 #include "model/materials.h"
 #include "model/mesh.h"
 #include "model/orientations.h"
+#include "model/profiles.h"
 #include "model/records.h"
 #include "model/sections.h"
 #include "model/steps.h"
@@ -37,6 +38,8 @@ public:
       cow_List<ptoC_BeamOrientation>());
     v({"materialOrientations", "material orientations of element sets"}, materialOrientations_,
       cow_List<ptoC_MaterialOrientation>());
+    v({"sectionAssignments", "the sections of element sets; a later one wins where they overlap"},
+      sectionAssignments_, ptoC_PartAttributeList());
     v({"solverInput", "raw solver text written at the end of the part"}, solverInput_,
       cow_String());
   }
@@ -47,6 +50,7 @@ public:
   cow_Btree<cow_String, ddb_DatumCsys> datums_; ///< in the part's frame
   cow_List<ptoC_BeamOrientation> beamOrientations_;
   cow_List<ptoC_MaterialOrientation> materialOrientations_;
+  ptoC_PartAttributeList sectionAssignments_;
   keydeck::SolverText solverInput_;
 };
 
@@ -121,6 +125,8 @@ public:
   const ddb_MaterialOrientationContainer& materialOrientations() const {
     return materialOrientations_;
   }
+  /// The part's section assignments with their regions in this instance's mesh.
+  const ptoC_PartAttributeList& sectionAssignments() const { return sectionAssignments_; }
 
   template <class V> void Fields(V& v) {
     v({"part", "the name of the part this instance places"}, partName_);
@@ -142,6 +148,7 @@ public:
   /// The part's orientations with their regions in this instance's mesh.
   ddb_BeamOrientationContainer beamOrientations_;
   ddb_MaterialOrientationContainer materialOrientations_;
+  ptoC_PartAttributeList sectionAssignments_;
   // and `transform_` of the base, from `translation_` and `rotation_`.
 };
 
@@ -209,12 +216,17 @@ public:
   bool shellToSolid() const { return shellToSolid_; }
   const mdl_MapString2ObjCow<kmaC_Material>& material() const { return materials_; }
   const mdl_MapString2ObjCow<kseC_Section>& sections() const { return sections_; }
+  const mdl_MapString2ObjCow<kbpC_BeamProfile>& profiles() const { return profiles_; }
   const mdl_MapString2ObjCow<kamC_Amplitude>& amplitudes() const { return amplitudes_; }
 
   template <class V> void Fields(V& v) {
     v({"parts", "the parts by name"}, parts_.parts_, cow_Btree<cow_String, ddb_Part>());
     v({"assembly", "the assembly of part instances"}, assembly_, ddb_Assembly());
     v({"materials", "the materials by name"}, materials_, mdl_MapString2ObjCow<kmaC_Material>());
+    v({"sections", "the sections by name: what the elements of a region are made of"}, sections_,
+      mdl_MapString2ObjCow<kseC_Section>());
+    v({"profiles", "the beam profiles by name: the shapes of beam sections"}, profiles_,
+      mdl_MapString2ObjCow<kbpC_BeamProfile>());
     v({"amplitudes", "the amplitudes by name: how a load or condition varies in time"},
       amplitudes_, mdl_MapString2ObjCow<kamC_Amplitude>());
     v({"steps", "the steps in order, the initial step first"}, steps_.steps, kprC_StepContainer());
@@ -243,7 +255,8 @@ public:
   ddb_PartContainer parts_;
   ddb_Assembly assembly_;
   mdl_MapString2ObjCow<kmaC_Material> materials_;
-  mdl_MapString2ObjCow<kseC_Section> sections_; ///< none until the section families load
+  mdl_MapString2ObjCow<kseC_Section> sections_;
+  mdl_MapString2ObjCow<kbpC_BeamProfile> profiles_;
   mdl_MapString2ObjCow<kamC_Amplitude> amplitudes_;
   ddb_DdbStepContainer steps_;
   /// Derived after loading: every datum under its id minus 1. Each part's

@@ -3,10 +3,12 @@
 #include "base/cow_2DArray.h"
 #include "base/cow_List.h"
 #include "base/cow_String.h"
+#include "model/element_controls.h"
 #include "model/element_types.h"
 #include "model/regions.h"
 
 #include <array>
+#include <optional>
 
 /// Coordinates of one node; the mesh keeps them in single precision.
 using uti_Coord3D = std::array<float, 3>;
@@ -77,12 +79,19 @@ public:
     v({"connectivity",
        "the node labels of each element, one row per element in the order of labels"},
       connectivity);
+    v({"controls", "the element controls of these elements; the solver's own when left out"},
+      controls, std::nullopt);
+  }
+  /// The element controls, the solver's own when the file gives none.
+  bme_ElemCtrlParams GetElemControlParams() const {
+    return controls.value_or(bme_ElemCtrlParams());
   }
 
   cow_String type;
   cow_List<int> labels;
   cow_2DArray<int> connectivity; ///< node labels, one row per element, as in the file
   cow_List<int> nodeIndices;     ///< derived after loading from `connectivity`
+  std::optional<bme_ElemCtrlParams> controls;
 };
 
 /// The element classes of one mesh, in file order.

@@ -1,6 +1,7 @@
 #include "model/json/derive.h"
 
 #include "model/json/derive_orientations.h"
+#include "model/json/derive_sections.h"
 #include "model/json/json_text.h"
 #include "model/json/region_names.h"
 #include "model/propagation.h"
@@ -810,6 +811,7 @@ void DeriveModel(std::string_view modelPath, ddb_Model& model, LoadErrors& error
   DeriveAssemblySets(modelPath, model, partLabels, errors);
   DeriveDatumsAndOrientations(modelPath, model, errors);
   DeriveStepRegions(modelPath, model, errors);
+  CheckSections(modelPath, model, errors);
   CheckAmplitudes(modelPath, model, errors);
   DeriveStepStates(modelPath, model, errors);
 }

@@ -36,6 +36,7 @@ namespace keydeck {
 ///   and class in order of first appearance. The assembly's own mesh has
 ///   index 0.
 /// - Datums and orientations: `DeriveDatumsAndOrientations`.
+/// - Sections and beam profiles: `CheckSections`.
 /// - Each amplitude: its tables of pairs of even length, their times in
 ///   order (`kamC_Amplitude::CheckData`).
 /// - Each step-dependent record (a map of records derived from

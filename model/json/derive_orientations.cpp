@@ -94,6 +94,18 @@ void DerivePartOrientations(ddb_Part& part, const DatumIds& datumIds, bool setsK
     else
       orientation.csys = dtmC_DatumRef(datum->second);
   }
+  for (int i = 0; i < part.sectionAssignments_.Size(); ++i) {
+    const std::string at = path + "/sectionAssignments/" + std::to_string(i);
+    if (setsKnown && !errors.AnyAtOrUnder(at)) // a broken record has no region to check
+      CheckRegion(part, part.sectionAssignments_.ConstGet(i).regionName_, at, errors);
+  }
+}
+
+// The region of an element set of an instance's part in the instance's mesh.
+rgnC_Region InstanceRegion(const ddb_Model& model, const cow_String& instanceName,
+                           const cow_String& setName) {
+  LoadErrors unused; // the part's check has reported every missing set once
+  return ResolveRegion(model, ScopePiece(instanceName) + "." + ScopePiece(setName), "", unused);
 }
 
 // The orientations of one kind that an instance takes from its part.
@@ -101,13 +113,22 @@ template <class Held, class Record>
 cow_List<Held> PlacedOrientations(const ddb_Model& model, const cow_String& instanceName,
                                   const cow_List<Record>& records) {
   cow_List<Held> placed;
-  LoadErrors unused; // the part's check has reported every missing set once
   for (const Record& record : records) {
     Held held;
-    held.region_ = ResolveRegion(
-        model, ScopePiece(instanceName) + "." + ScopePiece(record.regionName_), "", unused);
+    held.region_ = InstanceRegion(model, instanceName, record.regionName_);
     held.orientation_ = record;
     placed.Append(std::move(held));
+  }
+  return placed;
+}
+
+// The section assignments that an instance takes from its part.
+ptoC_PartAttributeList PlacedAssignments(const ddb_Model& model, const cow_String& instanceName,
+                                         const ptoC_PartAttributeList& assignments) {
+  ptoC_PartAttributeList placed;
+  for (ptoC_SectionAssignment assignment : assignments) {
+    assignment.region_ = InstanceRegion(model, instanceName, assignment.regionName_);
+    placed.Append(std::move(assignment));
   }
   return placed;
 }
@@ -161,6 +182,7 @@ void DeriveDatumsAndOrientations(std::string_view modelPath, ddb_Model& model, L
         PlacedOrientations<ddb_BeamOrientation>(model, instanceName, part.beamOrientations_);
     instance.materialOrientations_.entries_ = PlacedOrientations<ddb_MaterialOrientation>(
         model, instanceName, part.materialOrientations_);
+    instance.sectionAssignments_ = PlacedAssignments(model, instanceName, part.sectionAssignments_);
     assembly.instances_.Insert(instanceName, instance);
   }
 }

@@ -22,6 +22,9 @@ namespace keydeck {
 ///   material orientation's datum a datum of the same part; a beam direction
 ///   of zero length is an error. Each instance of the part gets the part's
 ///   orientations with their regions in the instance's mesh.
+/// - Each section assignment of a part must name an element set of the
+///   part; each instance gets the part's assignments with their regions in
+///   its mesh.
 void DeriveDatumsAndOrientations(std::string_view modelPath, ddb_Model& model, LoadErrors& errors);
 
 } // namespace keydeck

@@ -2,6 +2,7 @@
 
 #include "model/element_types.h"
 #include "model/json/derive.h"
+#include "model/json/derive_sections.h"
 #include "model/json/external_arrays.h"
 #include "model/json/fields.h"
 #include "model/json/json_syntax.h"
@@ -148,8 +149,10 @@ void AddGasketWarnings(std::string_view modelName, const ddb_Model& model,
 
 void AddUnwrittenWarnings(const cow_Btree<cow_String, ddb_Model>& models,
                           std::vector<std::string>& warnings) {
-  for (const auto& [name, model] : models)
+  for (const auto& [name, model] : models) {
     AddGasketWarnings(name.View(), model, warnings);
+    AddSectionWarnings(name.View(), model, warnings);
+  }
 }
 
 // A field left out of the file takes its default; a record left out takes the

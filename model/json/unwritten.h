@@ -33,7 +33,6 @@ struct PendingFamily {
 };
 
 inline constexpr PendingFamily PendingFamilies[] = {
-    {Holder::Model, "sections", "sections"},
     {Holder::Model, "loads", "loads"},
     {Holder::Model, "boundaryConditions", "boundary conditions"},
     {Holder::Model, "fields", "fields"},
@@ -44,7 +43,6 @@ inline constexpr PendingFamily PendingFamilies[] = {
     {Holder::Model, "fieldOutputRequests", "field output requests"},
     {Holder::Model, "historyOutputRequests", "history output requests"},
     {Holder::Model, "connectorSections", "connector sections"},
-    {Holder::Part, "sectionAssignments", "section assignments"},
     {Holder::Assembly, "nodes", "assembly nodes"},
     {Holder::Assembly, "elements", "assembly elements"},
     {Holder::Assembly, "connectors", "connectors"},

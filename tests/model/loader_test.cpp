@@ -286,7 +286,6 @@ TEST(Loader, StepMessages) {
 // Each family the writer cannot write yet is refused by name where it would go.
 TEST(Loader, FamiliesNotSupportedYet) {
   const std::pair<const char*, const char*> modelKeys[] = {
-      {"sections", "sections"},
       {"loads", "loads"},
       {"boundaryConditions", "boundary conditions"},
       {"fields", "fields"},
@@ -304,9 +303,6 @@ TEST(Loader, FamiliesNotSupportedYet) {
                                        " are not supported yet"});
   }
   ExpectMessages({
-      {"part",
-       WithPart(R"({"sets": {}, "surfaces": {}, "sectionAssignments": []})"),
-       {"models/M/parts/P/sectionAssignments: section assignments are not supported yet"}},
       {"assembly",
        InModel(
            R"({"assembly": {"sets": {}, "surfaces": {}, "nodes": {}, "elements": [], "connectors": {}}})"),

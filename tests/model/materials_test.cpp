@@ -341,9 +341,6 @@ TEST(MaterialFile, BehavioursNotSupportedYet) {
        {"models/M/materials/Steel/hyperelastic: hyperelastic behaviour is not supported yet",
         "models/M/materials/Steel/foam: crushable foam behaviour is not supported yet",
         "models/M/materials/Steel/eos: equation of state behaviour is not supported yet"}},
-      {"sections stay refused",
-       InModel(R"({"materials": {}, "sections": {}})"),
-       {"models/M/sections: sections are not supported yet"}},
   });
 }
 
