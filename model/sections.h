@@ -228,13 +228,6 @@ public:
   double shear3 = 0;
 };
 
-/// The transverse shear stiffness of a beam: K23 and K13.
-class kseC_TransverseShearBeam {
-public:
-  double shear1 = 0;
-  double shear2 = 0;
-};
-
 /// Where the enumeration of a shell's integration rule lives.
 class kseC_GeometryShellSection {
 public:

@@ -8,6 +8,7 @@
 #include "oif/oif_InstanceBuilder.h"
 #include "oif/oif_JobKeywordsBuilder.h"
 #include "oif/oif_MaterialBuilder.h"
+#include "oif/oif_PartAttributesBuilder.h"
 #include "oif/oif_PartBuilder.h"
 #include "oif/oif_RegionBuilder.h"
 #include "oif/oif_StepBuilder.h"
@@ -71,6 +72,7 @@ private:
   oif_PartBuilder part_;
   oif_RegionBuilder region_;
   oif_StepBuilder step_;
+  oif_PartAttributesBuilder partAttributes_;
   oif_AmplitudeBuilder amplitude_;
   oif_TransformBuilder transform_;
   oif_FinalBuilder final_;

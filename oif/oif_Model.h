@@ -17,6 +17,7 @@ public:
   const mdl_MapString2ObjCow<kmaC_Material>& Materials() const { return model_.material(); }
   /// The sections, in ascending order of name.
   const mdl_MapString2ObjCow<kseC_Section>& Sections() const { return model_.sections(); }
+  const mdl_MapString2ObjCow<kbpC_BeamProfile>& BeamProfiles() const { return model_.profiles(); }
   /// The amplitudes, in ascending order of name.
   const mdl_MapString2ObjCow<kamC_Amplitude>& Amplitudes() const { return model_.amplitudes(); }
 
