@@ -270,8 +270,7 @@ void oif_PartAttributesBuilder::CreateSection(const ddb_PartInstance& instance,
     CreateBeamSection(instance, sectionName, section, passed);
     return;
   case kseC_TrussSection::TypeId():
-    AddInstanceDefinition(
-        name, oif_SolidSection(passed.setName, section, cow_String(), passed.controlsName));
+    CreateTrussSection(name, section, passed);
     return;
   case kseC_MembraneSection::TypeId():
     CreateMembraneSection(name, section, passed);
@@ -300,6 +299,14 @@ void oif_PartAttributesBuilder::CreateSolidSection(const cow_String& instance,
                         oif_SolidSection(attributes.setName, section, attributes.orientationName,
                                          attributes.controlsName));
   CreateHourglassStiffness(instance, attributes.params);
+}
+
+// A truss has the solid's keyword, no orientation and no hourglass card.
+void oif_PartAttributesBuilder::CreateTrussSection(const cow_String& instance,
+                                                   const kseC_Section& section,
+                                                   const ClassAttributes& attributes) {
+  AddInstanceDefinition(instance, oif_SolidSection(attributes.setName, section, cow_String(),
+                                                   attributes.controlsName));
 }
 
 void oif_PartAttributesBuilder::CreateShellSection(const cow_String& instance,

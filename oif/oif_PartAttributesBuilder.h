@@ -69,6 +69,8 @@ private:
                      const ClassAttributes& attributes);
   void CreateSolidSection(const cow_String& instance, const kseC_Section& section,
                           const ClassAttributes& attributes);
+  void CreateTrussSection(const cow_String& instance, const kseC_Section& section,
+                          const ClassAttributes& attributes);
   void CreateShellSection(const cow_String& instance, const kseC_Section& section,
                           const ClassAttributes& attributes);
   void CreateMembraneSection(const cow_String& instance, const kseC_Section& section,
