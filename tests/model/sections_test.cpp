@@ -1,4 +1,5 @@
 #include "model/json/dumper.h"
+#include "model/properties.h"
 #include "tests/model/loading.h"
 
 #include <gtest/gtest.h>
@@ -162,6 +163,28 @@ TEST(SectionFile, MissingSectionWarns) {
             std::vector<std::string>{
                 "models/M/parts/P/sectionAssignments/1/section: no section \"Gone\" in the "
                 "model, so the deck writes the region's comment and no section card"});
+}
+
+} // namespace
+
+namespace {
+
+// Classes compare the four indices and not the label; a class answers for
+// its first member and lists its members' labels in order.
+TEST(ElementProperties, ClassesOfEqualIndices) {
+  const bme_Property first{.label = 7, .sectionIndex = 1, .matOriIndex = 0};
+  bme_Property second = first;
+  second.label = 3;
+  EXPECT_TRUE(first == second);
+  second.beamOriIndex = 0;
+  EXPECT_FALSE(first == second);
+  bme_MapPropertyArray classes;
+  classes.Insert(0, cow_List<bme_Property>{
+                        first, bme_Property{.label = 3, .sectionIndex = 1, .matOriIndex = 0}});
+  EXPECT_EQ(classes.ElementIds(0), (cow_List<int>{7, 3}));
+  EXPECT_EQ(classes.SectionIndex(0), 1);
+  EXPECT_EQ(classes.ElemCtrlIndex(0), bme_Property::Unset);
+  EXPECT_EQ(classes.MatOriIndex(0), 0);
 }
 
 } // namespace
