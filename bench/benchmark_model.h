@@ -22,9 +22,10 @@
 namespace keydeck_bench {
 
 struct ModelShape {
-  int size = 100;       // nodes along each edge of the block
-  bool withSets = true; // a node set and an element set of every tenth label, and an element
-                        // set of all elements that a solid section is assigned to
+  int size = 100; // nodes along each edge of the block
+  /// A node set and an element set of every tenth label, and an element set
+  /// of all elements with a solid section.
+  bool withSets = true;
 };
 
 /// Fills a buffer sized once from a bound; no check per value.
@@ -116,11 +117,13 @@ inline TextBuffer ModelText(const ModelShape& shape) {
     out.Integer(cells);
     out.Text(", 1]}}\n},\n\"sectionAssignments\": [{\"region\": \"All\", \"section\": \"Solid\"}]");
   }
+  out.Text("\n}\n},\n\"assembly\": {\"instances\": {\"Block-1\": {\"part\": \"Block\"}}},\n");
   // One solid section on every element: the property classes of a whole mesh.
-  out.Text("\n}\n},\n\"materials\": {\"Steel\": {\"density\": {\"table\": [[7.85e-9]]}}},\n"
-           "\"sections\": {\"Solid\": {\"type\": \"homogeneousSolid\", \"material\": \"Steel\"}},\n"
-           "\"assembly\": {\"instances\": {\"Block-1\": {\"part\": \"Block\"}}},\n"
-           "\"steps\": [{\"name\": \"Initial\"}, {\"name\": \"Load\", \"procedure\": \"static\"}]\n"
+  if (shape.withSets)
+    out.Text(
+        "\"materials\": {\"Steel\": {\"density\": {\"table\": [[7.85e-9]]}}},\n"
+        "\"sections\": {\"Solid\": {\"type\": \"homogeneousSolid\", \"material\": \"Steel\"}},\n");
+  out.Text("\"steps\": [{\"name\": \"Initial\"}, {\"name\": \"Load\", \"procedure\": \"static\"}]\n"
            "}\n}\n}\n");
   return out;
 }
