@@ -834,10 +834,19 @@ void Reader::Read(od::value value, SolverText& out) {
 }
 
 void Reader::CheckLabels(const char* field, const cow_List<int>& labels) {
+  // The lowest label first, in a loop the compiler vectorises; only a list
+  // that holds a bad label is gone through again to find each one.
+  const int* const values = labels.GetCArray();
+  const int count = labels.Size();
+  int lowest = INT_MAX;
+  for (int i = 0; i < count; ++i)
+    lowest = std::min(lowest, values[i]);
+  if (lowest >= 1) [[likely]]
+    return;
   PathScope scope(*this, field);
-  for (int i = 0; i < labels.Size(); ++i)
-    if (const int label = labels.ConstGet(i); label < 1) [[unlikely]]
-      ErrorAt("a label must be 1 or more, found " + std::to_string(label), i);
+  for (int i = 0; i < count; ++i)
+    if (values[i] < 1)
+      ErrorAt("a label must be 1 or more, found " + std::to_string(values[i]), i);
 }
 
 void Reader::Check(ddb_ElementClass& elements) {
