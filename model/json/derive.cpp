@@ -2,6 +2,7 @@
 
 #include "model/json/derive_orientations.h"
 #include "model/json/json_text.h"
+#include "model/json/large_lists.h"
 #include "model/json/region_names.h"
 #include "model/propagation.h"
 
@@ -303,8 +304,7 @@ private:
             "type " + std::string(elementClass.type.View()) + " has " + NodeCounts(shape) +
                 " nodes, rows have " + std::to_string(cols));
     const std::size_t count = static_cast<std::size_t>(rows) * static_cast<std::size_t>(cols);
-    cow_List<int> indices;
-    indices.Resize(static_cast<int>(count));
+    cow_List<int> indices = LargeList<int>(static_cast<int>(count));
     if (count > 0) {
       const int* const labels = &connectivity.ConstGet(0, 0);
       int* const out = &indices.Get(0);

@@ -1,5 +1,7 @@
 #include "model/json/external_arrays.h"
 
+#include "model/json/large_lists.h"
+
 #include <algorithm>
 #include <charconv>
 #include <climits>
@@ -239,8 +241,7 @@ template <class T>
 void ReadList(const ExternalArray& array, cow_List<T>& out, const ArrayFaultSink& fault) {
   if (!Fits(array, 1, fault))
     return;
-  out = cow_List<T>();
-  out.Resize(static_cast<int>(array.shape[0]));
+  out = LargeList<T>(static_cast<int>(array.shape[0]));
   if (out.Size() > 0)
     ReadInto(array, &out.Get(0), fault);
 }
@@ -266,8 +267,7 @@ void ReadCoordinates(const ExternalArray& array, uti_CoordCont3D& out,
             static_cast<std::size_t>(row), 0);
     return;
   }
-  out = uti_CoordCont3D();
-  out.Resize(rows);
+  out = LargeList<uti_Coord3D>(rows);
   if (rows == 0)
     return;
   float* const cells = out.Get(0).data();

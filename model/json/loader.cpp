@@ -6,6 +6,7 @@
 #include "model/json/fields.h"
 #include "model/json/json_syntax.h"
 #include "model/json/json_text.h"
+#include "model/json/large_lists.h"
 #include "model/json/unwritten.h"
 
 #include <simdjson.h>
@@ -925,7 +926,7 @@ void Reader::Read(od::value value, cow_List<int>& out) {
   int count = 0;
   if (!GetArray(value, array) || !CountItems(array, count))
     return;
-  out = cow_List<int>::WithCapacity(count);
+  out = LargeListCapacity<int>(count);
   ForEachItem(array, [&](od::value item, std::size_t index) {
     int number = 0;
     ReadInt(item, number, index);
@@ -942,7 +943,7 @@ void Reader::Read(od::value value, cow_List<double>& out) {
   int count = 0;
   if (!GetArray(value, array) || !CountItems(array, count))
     return;
-  out = cow_List<double>::WithCapacity(count);
+  out = LargeListCapacity<double>(count);
   ForEachItem(array, [&](od::value item, std::size_t index) {
     double number = 0;
     if (const simdjson::error_code error = item.get_double().get(number))
@@ -960,7 +961,7 @@ void Reader::Read(od::value value, uti_CoordCont3D& out) {
   int count = 0;
   if (!GetArray(value, rows) || !CountItems(rows, count))
     return;
-  out = uti_CoordCont3D::WithCapacity(count);
+  out = LargeListCapacity<uti_Coord3D>(count);
   ForEachItem(rows, [&](od::value item, std::size_t row) {
     uti_Coord3D point{0, 0, 0};
     od::array numbers;
