@@ -6,7 +6,8 @@ node set and an element set of every tenth label, an initial and a static step.
 The model is built as numpy arrays; the Python path is the whole way from the
 arrays to the deck on disk: Model.from_dict and Model.write. Beside it, in the
 same run, the command writes the deck of the same model (saved as a model file
-first) and reports its deck-writing phase with -v. Each is timed five times; the
+first) and reports its deck-writing phase with -v. Each run writes a new deck,
+not over the last one, as write_bench does. Each is timed five times; the
 medians are compared against the bar: the Python path takes at most 1.3 times
 the command's writing phase.
 
@@ -87,12 +88,16 @@ def main():
         with open(model_file, "w") as out:
             out.write(keydeck.Model.from_dict(d).to_json())
         python, loading, command = [], [], []
-        for _ in range(arguments.runs):  # interleaved, so that both see the same machine
+        decks = [os.path.join(folder, name) for name in ("python.inp", "command.inp")]
+        for run in range(arguments.runs):  # interleaved, so that both see the same machine
+            if run > 0:  # a new deck each run, as in write_bench: replacing one costs its removal
+                for deck in decks:
+                    os.remove(deck)
             load, write = python_path(d, folder)
             python.append(load + write)
             loading.append(load)
             command.append(command_write_phase(arguments.command, model_file, folder))
-        with open(os.path.join(folder, "python.inp"), "rb") as a, open(os.path.join(folder, "command.inp"), "rb") as b:
+        with open(decks[0], "rb") as a, open(decks[1], "rb") as b:
             same = a.read() == b.read()
         size = os.path.getsize(os.path.join(folder, "python.inp"))
 
