@@ -3,17 +3,20 @@
 #include "model/json/derive_orientations.h"
 #include "model/json/derive_sections.h"
 #include "model/json/json_text.h"
+#include "model/json/large_lists.h"
 #include "model/json/region_names.h"
 #include "model/propagation.h"
 
 #include <algorithm>
 #include <array>
+#include <climits>
 #include <cmath>
 #include <concepts>
 #include <cstdint>
 #include <map>
 #include <numbers>
 #include <optional>
+#include <span>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -22,49 +25,62 @@ namespace keydeck {
 
 namespace {
 
-// Finds the position of a label among the labels of a mesh. Labels that lie
-// close together (the usual numbering 1..n) are found through a table over
-// their range; scattered ones through an open-addressing hash table. Neither
+// Finds the position of a label among the labels of a mesh. Labels numbered
+// in order (each one more than the one before, as usual) need no table at
+// all; other labels that lie close together are found through a table over
+// their range, scattered ones through an open-addressing hash table. Nothing
 // allocates per label.
 class LabelIndex {
 public:
-  // Prepares for `count` labels between `lowest` and `highest`.
-  void Reserve(int count, int lowest, int highest);
-  // Enters `label` at `position`; returns the position that already has it, or -1.
-  int Insert(int label, int position);
+  // Indexes the labels of `lists`, one list after the other, positions
+  // counting on from list to list. Calls `duplicate(list, item, label,
+  // position)` for each label seen before, with the position it had first.
+  template <class Duplicate>
+  void Build(std::span<const cow_List<int>* const> lists, Duplicate&& duplicate);
   // The position of the first label of `range` when every label of it is
-  // there and positions step as labels do (labels numbered in order from the
-  // lowest, as usual); otherwise -1.
+  // there and positions step as labels do (labels numbered in order);
+  // otherwise -1.
   int SteppedStart(const LabelRange& range) const {
     const std::int64_t steps =
         (static_cast<std::int64_t>(range.Last()) - range.First()) / range.Step();
     const std::int64_t last = range.First() + steps * range.Step();
-    const bool inside = range.First() >= lowest_ && last - lowest_ < inserted_;
-    return ordered_ && inside ? static_cast<int>(range.First() - lowest_) : -1;
+    const bool inside = range.First() >= lowest_ && last - lowest_ < count_;
+    return layout_ == Layout::Ordered && inside ? static_cast<int>(range.First() - lowest_) : -1;
   }
   // The position of `label`, or -1.
   int Find(int label) const {
-    if (dense_) {
-      const std::uint64_t offset =
-          static_cast<std::uint64_t>(static_cast<std::int64_t>(label) - lowest_);
+    const std::uint64_t offset = Offset(label);
+    if (layout_ == Layout::Ordered)
+      return offset < static_cast<std::uint64_t>(count_) ? static_cast<int>(offset) : -1;
+    if (layout_ == Layout::Dense)
       return offset < slots_.size() ? slots_[offset] : -1;
-    }
     for (std::size_t at = Hash(label);; at = (at + 1) & mask_) {
       if (slots_[at] < 0 || labels_[at] == label)
         return slots_[at];
     }
   }
+  // Writes the position of each of the `count` labels to `out`, -1 for a
+  // label that is not there; returns how many are not.
+  std::size_t FindAll(const int* labels, std::size_t count, int* out) const;
 
 private:
+  enum class Layout { Ordered, Dense, Hashed };
+
+  std::uint64_t Offset(int label) const {
+    return static_cast<std::uint64_t>(static_cast<std::int64_t>(label) - lowest_);
+  }
   std::size_t Hash(int label) const {
     return static_cast<std::size_t>(
         (static_cast<std::uint64_t>(static_cast<std::uint32_t>(label)) * 0x9E3779B97F4A7C15u) >>
         shift_);
   }
+  // Sizes the table for `count` labels between `lowest` and `highest`.
+  void Reserve(std::int64_t count, int lowest, int highest);
+  // Enters `label` at `position`; returns the position that already has it, or -1.
+  int Insert(int label, int position);
 
-  bool dense_ = true;
-  bool ordered_ = true; // dense, and each label at its offset from the lowest
-  std::int64_t inserted_ = 0;
+  Layout layout_ = Layout::Ordered;
+  std::int64_t count_ = 0;
   std::int64_t lowest_ = 0;
   std::vector<int> slots_;  // positions; -1 for none
   std::vector<int> labels_; // hash table only: the label in each slot
@@ -72,14 +88,69 @@ private:
   int shift_ = 64;
 };
 
-void LabelIndex::Reserve(int count, int lowest, int highest) {
-  const std::int64_t range = static_cast<std::int64_t>(highest) - lowest + 1;
-  dense_ = count == 0 || range <= 2 * static_cast<std::int64_t>(count) + 1024;
-  if (dense_) {
-    lowest_ = lowest;
-    slots_.assign(count == 0 ? 0 : static_cast<std::size_t>(range), -1);
+// What one pass over labels learns before they are indexed: their range and
+// whether they run in order from the first.
+struct LabelSurvey {
+  std::int64_t count = 0;
+  std::int64_t first = 0;
+  int lowest = INT_MAX;
+  int highest = INT_MIN;
+  bool ordered = true;
+
+  void Add(const cow_List<int>& list) {
+    if (list.Empty())
+      return;
+    if (count == 0)
+      first = list.UncheckedConstGet(0);
+    const int* const labels = list.GetCArray();
+    const std::int64_t next = first + count; // the label that would continue the order
+    bool inOrder = true;
+    int low = lowest;
+    int high = highest;
+    for (int i = 0; i < list.Size(); ++i) {
+      low = std::min(low, labels[i]);
+      high = std::max(high, labels[i]);
+      inOrder &= labels[i] == next + i;
+    }
+    lowest = low;
+    highest = high;
+    ordered = ordered && inOrder;
+    count += list.Size();
+  }
+};
+
+template <class Duplicate>
+void LabelIndex::Build(std::span<const cow_List<int>* const> lists, Duplicate&& duplicate) {
+  LabelSurvey survey;
+  for (const cow_List<int>* list : lists)
+    survey.Add(*list);
+  count_ = survey.count;
+  if (survey.ordered) { // no label can repeat
+    layout_ = Layout::Ordered;
+    lowest_ = survey.first;
     return;
   }
+  Reserve(survey.count, survey.lowest, survey.highest);
+  int position = 0;
+  for (std::size_t k = 0; k < lists.size(); ++k) {
+    const cow_List<int>& list = *lists[k];
+    for (int i = 0; i < list.Size(); ++i, ++position) {
+      const int label = list.UncheckedConstGet(i);
+      if (const int first = Insert(label, position); first >= 0) [[unlikely]]
+        duplicate(k, i, label, first);
+    }
+  }
+}
+
+void LabelIndex::Reserve(std::int64_t count, int lowest, int highest) {
+  const std::int64_t range = static_cast<std::int64_t>(highest) - lowest + 1;
+  if (range <= 2 * count + 1024) {
+    layout_ = Layout::Dense;
+    lowest_ = lowest;
+    slots_.assign(static_cast<std::size_t>(range), -1);
+    return;
+  }
+  layout_ = Layout::Hashed;
   int bits = 4;
   while ((std::size_t{1} << bits) < 2 * static_cast<std::size_t>(count))
     ++bits;
@@ -90,10 +161,8 @@ void LabelIndex::Reserve(int count, int lowest, int highest) {
 }
 
 int LabelIndex::Insert(int label, int position) {
-  ordered_ = ordered_ && dense_ && static_cast<std::int64_t>(label) - lowest_ == position;
-  ++inserted_;
-  if (dense_) {
-    int& slot = slots_[static_cast<std::size_t>(static_cast<std::int64_t>(label) - lowest_)];
+  if (layout_ == Layout::Dense) {
+    int& slot = slots_[Offset(label)];
     if (slot >= 0)
       return slot;
     slot = position;
@@ -110,15 +179,26 @@ int LabelIndex::Insert(int label, int position) {
   }
 }
 
-std::string Count(int count, std::string_view thing) {
-  return std::to_string(count) + " " + std::string(thing) + (count == 1 ? "" : "s");
+std::size_t LabelIndex::FindAll(const int* labels, std::size_t count, int* out) const {
+  std::size_t missing = 0;
+  if (layout_ == Layout::Ordered) { // a loop without a table, which the compiler vectorises
+    for (std::size_t i = 0; i < count; ++i) {
+      const std::uint64_t offset = Offset(labels[i]);
+      const bool inside = offset < static_cast<std::uint64_t>(count_);
+      out[i] = inside ? static_cast<int>(offset) : -1;
+      missing += inside ? 0 : 1;
+    }
+    return missing;
+  }
+  for (std::size_t i = 0; i < count; ++i) {
+    out[i] = Find(labels[i]);
+    missing += out[i] < 0 ? 1 : 0;
+  }
+  return missing;
 }
 
-void WidenRange(const cow_List<int>& labels, int& lowest, int& highest) {
-  for (const int label : labels) {
-    lowest = label < lowest ? label : lowest;
-    highest = label > highest ? label : highest;
-  }
+std::string Count(int count, std::string_view thing) {
+  return std::to_string(count) + " " + std::string(thing) + (count == 1 ? "" : "s");
 }
 
 std::string ElementLabelPath(const std::vector<int>& classStarts, int position) {
@@ -186,49 +266,30 @@ private:
   }
 
   void IndexNodes() {
-    const cow_List<int>& labels = mesh_.nodes.labels;
-    int lowest = labels.Empty() ? 0 : labels.UncheckedConstGet(0);
-    int highest = lowest;
-    WidenRange(labels, lowest, highest);
-    LabelIndex& nodes = labels_.nodes;
-    nodes.Reserve(labels.Size(), lowest, highest);
-    for (int i = 0; i < labels.Size(); ++i) {
-      const int label = labels.UncheckedConstGet(i);
-      const int first = nodes.Insert(label, i);
-      if (first >= 0) [[unlikely]]
-        Error("nodes/labels/" + std::to_string(i), "duplicate node label " + std::to_string(label) +
-                                                       ", also at index " + std::to_string(first));
-    }
+    const cow_List<int>* const labels[] = {&mesh_.nodes.labels};
+    labels_.nodes.Build(labels, [&](std::size_t, int i, int label, int first) {
+      Error("nodes/labels/" + std::to_string(i), "duplicate node label " + std::to_string(label) +
+                                                     ", also at index " + std::to_string(first));
+    });
   }
 
   void IndexElementLabels() {
     const cow_List<ddb_ElementClass>& classes = mesh_.elements.classes;
-    int count = 0;
-    int lowest = 0;
-    int highest = 0;
     std::vector<int>& classStarts = labels_.classStarts;
+    std::vector<const cow_List<int>*> labels;
+    int count = 0;
     for (const ddb_ElementClass& elementClass : classes) {
-      if (count == 0 && !elementClass.labels.Empty())
-        lowest = highest = elementClass.labels.UncheckedConstGet(0);
       classStarts.push_back(count);
       count += elementClass.labels.Size();
-      WidenRange(elementClass.labels, lowest, highest);
+      labels.push_back(&elementClass.labels);
       labels_.shapes.push_back(elementClass.shape());
       labels_.types.push_back(elementClass.type);
     }
-    LabelIndex& elements = labels_.elements;
-    elements.Reserve(count, lowest, highest);
-    for (int k = 0; k < classes.Size(); ++k) {
-      const cow_List<int>& labels = classes.UncheckedConstGet(k).labels;
-      for (int i = 0; i < labels.Size(); ++i) {
-        const int label = labels.UncheckedConstGet(i);
-        const int first = elements.Insert(label, classStarts[k] + i);
-        if (first >= 0) [[unlikely]]
-          Error("elements/" + std::to_string(k) + "/labels/" + std::to_string(i),
-                "duplicate element label " + std::to_string(label) + ", also at " +
-                    ElementLabelPath(classStarts, first));
-      }
-    }
+    labels_.elements.Build(labels, [&](std::size_t k, int i, int label, int first) {
+      Error("elements/" + std::to_string(k) + "/labels/" + std::to_string(i),
+            "duplicate element label " + std::to_string(label) + ", also at " +
+                ElementLabelPath(classStarts, first));
+    });
   }
 
   void DeriveClass(int k, ddb_ElementClass& elementClass) {
@@ -244,24 +305,29 @@ private:
             "type " + std::string(elementClass.type.View()) + " has " + NodeCounts(shape) +
                 " nodes, rows have " + std::to_string(cols));
     const std::size_t count = static_cast<std::size_t>(rows) * static_cast<std::size_t>(cols);
-    cow_List<int> indices = cow_List<int>::WithCapacity(static_cast<int>(count));
-    const int* const labels = count == 0 ? nullptr : &connectivity.ConstGet(0, 0);
-    for (std::size_t i = 0; i < count; ++i) {
-      int index = labels_.nodes.Find(labels[i]);
-      if (index < 0) [[unlikely]] {
-        UnknownNode(k, i, cols, labels[i]);
-        index = 0;
-      }
-      indices.Append(index);
+    cow_List<int> indices = LargeList<int>(static_cast<int>(count));
+    if (count > 0) {
+      const int* const labels = &connectivity.ConstGet(0, 0);
+      int* const out = &indices.Get(0);
+      if (labels_.nodes.FindAll(labels, count, out) > 0) [[unlikely]]
+        UnknownNodes(k, labels, out, count, cols);
     }
     elementClass.nodeIndices = std::move(indices);
   }
 
-  [[gnu::cold]] void UnknownNode(int k, std::size_t at, int cols, int label) {
+  // Reports each label of the connectivity that is no node; its index
+  // becomes 0, so that the indices stay usable.
+  [[gnu::cold]] void UnknownNodes(int k, const int* labels, int* indices, std::size_t count,
+                                  int cols) {
     const std::size_t width = static_cast<std::size_t>(cols);
-    Error("elements/" + std::to_string(k) + "/connectivity/" + std::to_string(at / width) + "/" +
-              std::to_string(at % width),
-          "no node " + std::to_string(label) + " in the part");
+    for (std::size_t at = 0; at < count; ++at) {
+      if (indices[at] >= 0)
+        continue;
+      indices[at] = 0;
+      Error("elements/" + std::to_string(k) + "/connectivity/" + std::to_string(at / width) + "/" +
+                std::to_string(at % width),
+            "no node " + std::to_string(labels[at]) + " in the part");
+    }
   }
 
   std::string path_;
@@ -757,8 +823,7 @@ private:
       handle.Get().DeriveStates(steps_, faults);
       for (const RecordFault& fault : faults)
         errors_.Add(std::string(modelPath_) + "/" + std::string(mapName) + "/" +
-                        std::string(name.View()) + "/" +
-                        fault.where,
+                        std::string(name.View()) + "/" + fault.where,
                     fault.what);
       records.Insert(name, std::move(handle));
     }

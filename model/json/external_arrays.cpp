@@ -1,5 +1,7 @@
 #include "model/json/external_arrays.h"
 
+#include "model/json/large_lists.h"
+
 #include <algorithm>
 #include <charconv>
 #include <climits>
@@ -114,18 +116,29 @@ bool Fits(const ExternalArray& array, std::size_t dimensions, const ArrayFaultSi
   return true;
 }
 
-// Calls `take(value, row, column)` for each value, row by row; a 1-D array
-// is one column.
+// Calls `take(value, at)` for each value, row by row, with `at` its place
+// in the rows laid end to end; a 1-D array is one column. An array whose
+// values lie one after the other, as numpy makes them, is read in one flat
+// loop that the compiler vectorises.
 template <class S, class Take> void ForEachValue(const ExternalArray& array, Take&& take) {
   const std::int64_t rows = array.shape[0];
   const std::int64_t columns = array.shape.size() > 1 ? array.shape[1] : 1;
   const std::int64_t columnStride = array.strides.size() > 1 ? array.strides[1] : 0;
   const char* const base = static_cast<const char*>(array.data);
+  const std::int64_t size = sizeof(S);
+  const bool packed =
+      (columns == 1 || columnStride == size) && (rows == 1 || array.strides[0] == columns * size);
+  if (packed) {
+    const std::size_t count = static_cast<std::size_t>(rows * columns);
+    for (std::size_t at = 0; at < count; ++at)
+      take(Load<S>(base + at * sizeof(S)), at);
+    return;
+  }
+  std::size_t at = 0;
   for (std::int64_t row = 0; row < rows; ++row) {
     const char* const line = base + row * array.strides[0];
     for (std::int64_t column = 0; column < columns; ++column)
-      take(Load<S>(line + column * columnStride), static_cast<std::size_t>(row),
-           static_cast<std::size_t>(column));
+      take(Load<S>(line + column * columnStride), at++);
   }
 }
 
@@ -174,9 +187,9 @@ void ReadAll(const ExternalArray& array, T* out, Convert&& convert, Describe&& d
   const int depth = DepthOf(array);
   WithValueType(array, [&](auto tag) {
     using S = decltype(tag);
-    ForEachValue<S>(array, [&](S value, std::size_t row, std::size_t column) {
-      if (!convert(value, out[row * columns + column])) [[unlikely]]
-        fault(describe(value), depth, row, column);
+    ForEachValue<S>(array, [&](S value, std::size_t at) {
+      if (!convert(value, out[at])) [[unlikely]]
+        fault(describe(value), depth, at / columns, at % columns);
     });
   });
 }
@@ -228,8 +241,7 @@ template <class T>
 void ReadList(const ExternalArray& array, cow_List<T>& out, const ArrayFaultSink& fault) {
   if (!Fits(array, 1, fault))
     return;
-  out = cow_List<T>();
-  out.Resize(static_cast<int>(array.shape[0]));
+  out = LargeList<T>(static_cast<int>(array.shape[0]));
   if (out.Size() > 0)
     ReadInto(array, &out.Get(0), fault);
 }
@@ -255,8 +267,7 @@ void ReadCoordinates(const ExternalArray& array, uti_CoordCont3D& out,
             static_cast<std::size_t>(row), 0);
     return;
   }
-  out = uti_CoordCont3D();
-  out.Resize(rows);
+  out = LargeList<uti_Coord3D>(rows);
   if (rows == 0)
     return;
   float* const cells = out.Get(0).data();

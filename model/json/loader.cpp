@@ -7,6 +7,7 @@
 #include "model/json/fields.h"
 #include "model/json/json_syntax.h"
 #include "model/json/json_text.h"
+#include "model/json/large_lists.h"
 #include "model/json/unwritten.h"
 
 #include <simdjson.h>
@@ -837,10 +838,19 @@ void Reader::Read(od::value value, SolverText& out) {
 }
 
 void Reader::CheckLabels(const char* field, const cow_List<int>& labels) {
+  // The lowest label first, in a loop the compiler vectorises; only a list
+  // that holds a bad label is gone through again to find each one.
+  const int* const values = labels.GetCArray();
+  const int count = labels.Size();
+  int lowest = INT_MAX;
+  for (int i = 0; i < count; ++i)
+    lowest = std::min(lowest, values[i]);
+  if (lowest >= 1) [[likely]]
+    return;
   PathScope scope(*this, field);
-  for (int i = 0; i < labels.Size(); ++i)
-    if (const int label = labels.ConstGet(i); label < 1) [[unlikely]]
-      ErrorAt("a label must be 1 or more, found " + std::to_string(label), i);
+  for (int i = 0; i < count; ++i)
+    if (values[i] < 1)
+      ErrorAt("a label must be 1 or more, found " + std::to_string(values[i]), i);
 }
 
 void Reader::Check(ddb_ElementClass& elements) {
@@ -919,7 +929,7 @@ void Reader::Read(od::value value, cow_List<int>& out) {
   int count = 0;
   if (!GetArray(value, array) || !CountItems(array, count))
     return;
-  out = cow_List<int>::WithCapacity(count);
+  out = LargeListCapacity<int>(count);
   ForEachItem(array, [&](od::value item, std::size_t index) {
     int number = 0;
     ReadInt(item, number, index);
@@ -936,7 +946,7 @@ void Reader::Read(od::value value, cow_List<double>& out) {
   int count = 0;
   if (!GetArray(value, array) || !CountItems(array, count))
     return;
-  out = cow_List<double>::WithCapacity(count);
+  out = LargeListCapacity<double>(count);
   ForEachItem(array, [&](od::value item, std::size_t index) {
     double number = 0;
     if (const simdjson::error_code error = item.get_double().get(number))
@@ -954,7 +964,7 @@ void Reader::Read(od::value value, uti_CoordCont3D& out) {
   int count = 0;
   if (!GetArray(value, rows) || !CountItems(rows, count))
     return;
-  out = uti_CoordCont3D::WithCapacity(count);
+  out = LargeListCapacity<uti_Coord3D>(count);
   ForEachItem(rows, [&](od::value item, std::size_t row) {
     uti_Coord3D point{0, 0, 0};
     od::array numbers;

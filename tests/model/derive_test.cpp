@@ -43,8 +43,8 @@ const ddb_PartInstance& InstanceOf(const ddb_Model& model, const char* name) {
 
 std::vector<int> Values(const cow_List<int>& list) { return {list.begin(), list.end()}; }
 
-// Node labels in order, scattered (so looked up by hash) and close together
-// (looked up by table), negative and at the ends of the int range.
+// Node labels in order (looked up without a table), scattered (by hash) and
+// close together (by table), negative and at the ends of the int range.
 TEST(Derive, NodeIndicesFollowTheLabels) {
   const struct {
     const char* name;
@@ -52,6 +52,11 @@ TEST(Derive, NodeIndicesFollowTheLabels) {
     std::vector<std::vector<int>> rows;
     std::vector<int> indices;
   } cases[] = {
+      {"in order", {5, 6, 7}, {{7, 5, 6}, {6, 6, 5}}, {2, 0, 1, 1, 1, 0}},
+      {"in order up to the largest int",
+       {2147483646, 2147483647},
+       {{2147483647, 2147483646}},
+       {1, 0}},
       {"dense, out of order", {10, 30, 20}, {{30, 10, 20}, {20, 20, 10}}, {1, 0, 2, 2, 2, 0}},
       {"sparse", {7, 1000000000, -5}, {{-5, 7}, {1000000000, -5}}, {2, 0, 1, 2}},
       {"int range",
@@ -72,6 +77,24 @@ TEST(Derive, NodeIndicesFollowTheLabels) {
         Values(model.part().get("P").mesh().elementData().elementClass(0).elementConnectivity()),
         c.indices);
   }
+}
+
+// Labels just outside a run of labels in order are no nodes; each is
+// reported at its place and gets index 0.
+TEST(Derive, UnknownNodesBesideLabelsInOrder) {
+  ddb_Model model;
+  model.parts_.parts_.Insert("P",
+                             Part({5, 6, 7}, {Class("T", {1, 2}, {{4, 7}, {8, -2147483647 - 1}})}));
+  LoadErrors errors;
+  DeriveModel("models/M", model, errors);
+  EXPECT_EQ(errors.Messages(),
+            (std::vector<std::string>{
+                "models/M/parts/P/elements/0/connectivity/0/0: no node 4 in the part",
+                "models/M/parts/P/elements/0/connectivity/1/0: no node 8 in the part",
+                "models/M/parts/P/elements/0/connectivity/1/1: no node -2147483648 in the part"}));
+  EXPECT_EQ(
+      Values(model.part().get("P").mesh().elementData().elementClass(0).elementConnectivity()),
+      (std::vector<int>{0, 2, 0, 0}));
 }
 
 TEST(Derive, ManyScatteredLabels) {

@@ -110,5 +110,37 @@ TEST(ExternalArrays, StridedRowsOfCoordinates) {
   EXPECT_EQ(out.ConstGet(1), (uti_Coord3D{4, 5, 6}));
 }
 
+// A value refused in rows read in one flat loop (values one after the other)
+// and in rows read with their strides is reported at the same row and column.
+TEST(ExternalArrays, FaultsInRowsNameTheirRowAndColumn) {
+  const std::array<double, 8> values = {1, 2, 3, 0, 4, 5.5, 6, 0};
+  const struct {
+    const char* name;
+    std::int64_t rowStride;
+    const char* place; // depth, row and column of the fault
+  } cases[] = {
+      {"packed rows of three", 24, "2 1 2"},      // the second row is 0, 4, 5.5
+      {"rows of three out of four", 32, "2 1 1"}, // the second row is 4, 5.5, 6
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    ExternalArray array;
+    array.data = values.data();
+    array.kind = ExternalArray::Kind::Real;
+    array.itemSize = 8;
+    array.shape = {2, 3};
+    array.strides = {c.rowStride, 8};
+    std::vector<std::string> faults;
+    cow_2DArray<int> out;
+    ReadIntegerRows(array, out, "empty row",
+                    [&](std::string_view what, int depth, std::size_t row, std::size_t column) {
+                      faults.push_back(std::to_string(depth) + " " + std::to_string(row) + " " +
+                                       std::to_string(column) + " " + std::string(what));
+                    });
+    EXPECT_EQ(faults,
+              std::vector<std::string>{std::string(c.place) + " expected an integer, found 5.5"});
+  }
+}
+
 } // namespace
 } // namespace keydeck
