@@ -1,5 +1,6 @@
 #include "model/json/derive.h"
 
+#include "model/json/derive_boundary_conditions.h"
 #include "model/json/derive_orientations.h"
 #include "model/json/json_text.h"
 #include "model/json/region_names.h"
@@ -756,8 +757,7 @@ private:
       handle.Get().DeriveStates(steps_, faults);
       for (const RecordFault& fault : faults)
         errors_.Add(std::string(modelPath_) + "/" + std::string(mapName) + "/" +
-                        std::string(name.View()) + "/" +
-                        fault.where,
+                        std::string(name.View()) + "/" + fault.where,
                     fault.what);
       records.Insert(name, std::move(handle));
     }
@@ -812,6 +812,7 @@ void DeriveModel(std::string_view modelPath, ddb_Model& model, LoadErrors& error
   DeriveStepRegions(modelPath, model, errors);
   CheckAmplitudes(modelPath, model, errors);
   DeriveStepStates(modelPath, model, errors);
+  DeriveBoundaryConditions(modelPath, model, errors);
 }
 
 } // namespace keydeck
