@@ -51,8 +51,13 @@ void CheckStates(const ddb_Model& model, const kbcC_BC& bc, const std::string& p
 }
 
 void DeriveOne(ddb_Model& model, kbcC_BC& bc, const std::string& path, LoadErrors& errors) {
-  if (bc.HasRegion())
+  if (bc.HasRegion()) {
     bc.region = ResolveRegion(model, bc.regionName.View(), path + "/region", errors);
+    if (bc.region.HasSet() && bc.region.ConstSet().SetType() != res_NodeSet)
+      errors.Add(path + "/region", QuotedJson(bc.regionName.View()) +
+                                       " is an element set; a boundary condition acts on a "
+                                       "node set");
+  }
   if (!bc.csysName.Empty()) {
     bc.csys = dtmC_DatumRef(FindDatum(model, bc.csysName.View()));
     if (bc.csys.IsNullRef())
