@@ -120,23 +120,41 @@ protected:
 
 struct kbcC_DisplacementState : kbcC_ComplexDofState {
   template <class V> void Fields(V& v) {
-    static constexpr Names names = {"u1", "u2", "u3", "ur1", "ur2", "ur3"};
-    static constexpr Names imaginaryNames = {"u1Imaginary",  "u2Imaginary",  "u3Imaginary",
-                                             "ur1Imaginary", "ur2Imaginary", "ur3Imaginary"};
+    static constexpr Names names = {{"u1", "the displacement along axis 1"},
+                                    {"u2", "the displacement along axis 2"},
+                                    {"u3", "the displacement along axis 3"},
+                                    {"ur1", "the rotation about axis 1, in radians"},
+                                    {"ur2", "the rotation about axis 2, in radians"},
+                                    {"ur3", "the rotation about axis 3, in radians"}};
+    static constexpr Names imaginaryNames = {
+        {"u1Imaginary", "the imaginary part of u1 in steady-state dynamics"},
+        {"u2Imaginary", "the imaginary part of u2 in steady-state dynamics"},
+        {"u3Imaginary", "the imaginary part of u3 in steady-state dynamics"},
+        {"ur1Imaginary", "the imaginary part of ur1 in steady-state dynamics"},
+        {"ur2Imaginary", "the imaginary part of ur2 in steady-state dynamics"},
+        {"ur3Imaginary", "the imaginary part of ur3 in steady-state dynamics"}};
     ComplexDofFields(v, names, imaginaryNames);
   }
 };
 
 struct kbcC_VelocityState : kbcC_DofState {
   template <class V> void Fields(V& v) {
-    static constexpr Names names = {"v1", "v2", "v3", "vr1", "vr2", "vr3"};
+    static constexpr Names names = {
+        {"v1", "the velocity along axis 1"},          {"v2", "the velocity along axis 2"},
+        {"v3", "the velocity along axis 3"},          {"vr1", "the angular velocity about axis 1"},
+        {"vr2", "the angular velocity about axis 2"}, {"vr3", "the angular velocity about axis 3"}};
     DofFields(v, names);
   }
 };
 
 struct kbcC_AccelerationState : kbcC_DofState {
   template <class V> void Fields(V& v) {
-    static constexpr Names names = {"a1", "a2", "a3", "ar1", "ar2", "ar3"};
+    static constexpr Names names = {{"a1", "the acceleration along axis 1"},
+                                    {"a2", "the acceleration along axis 2"},
+                                    {"a3", "the acceleration along axis 3"},
+                                    {"ar1", "the angular acceleration about axis 1"},
+                                    {"ar2", "the angular acceleration about axis 2"},
+                                    {"ar3", "the angular acceleration about axis 3"}};
     DofFields(v, names);
   }
 };
