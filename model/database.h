@@ -4,6 +4,7 @@
 #include "base/cow_String.h"
 #include "base/mdl_MapString2ObjCow.h"
 #include "model/amplitudes.h"
+#include "model/boundary_conditions.h"
 #include "model/datums.h"
 #include "model/materials.h"
 #include "model/mesh.h"
@@ -218,6 +219,9 @@ public:
   const mdl_MapString2ObjCow<kseC_Section>& sections() const { return sections_; }
   const mdl_MapString2ObjCow<kbpC_BeamProfile>& profiles() const { return profiles_; }
   const mdl_MapString2ObjCow<kamC_Amplitude>& amplitudes() const { return amplitudes_; }
+  const kprC_PropagatingContainer<kbcC_BC>& boundaryConditions() const {
+    return boundaryConditions_;
+  }
 
   template <class V> void Fields(V& v) {
     v({"parts", "the parts by name"}, parts_.parts_, cow_Btree<cow_String, ddb_Part>());
@@ -230,6 +234,8 @@ public:
     v({"amplitudes", "the amplitudes by name: how a load or condition varies in time"},
       amplitudes_, mdl_MapString2ObjCow<kamC_Amplitude>());
     v({"steps", "the steps in order, the initial step first"}, steps_.steps, kprC_StepContainer());
+    v({"boundaryConditions", "the boundary conditions by name, with what each step does to them"},
+      boundaryConditions_, kprC_PropagatingContainer<kbcC_BC>());
     v({"topLevelSolverInput", "raw solver text written verbatim at the top of the deck"},
       topLevelSolverInput_, cow_String());
     v({"solverInput", "raw solver text written after the assembly, with the model data"},
@@ -258,6 +264,7 @@ public:
   mdl_MapString2ObjCow<kseC_Section> sections_;
   mdl_MapString2ObjCow<kbpC_BeamProfile> profiles_;
   mdl_MapString2ObjCow<kamC_Amplitude> amplitudes_;
+  kprC_PropagatingContainer<kbcC_BC> boundaryConditions_;
   ddb_DdbStepContainer steps_;
   /// Derived after loading: every datum under its id minus 1. Each part's
   /// datums in its frame, the assembly's, then each instance's in the frame

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/cow_Btree.h"
 #include "base/cow_COW.h"
 #include "base/cow_List.h"
 #include "base/cow_String.h"
@@ -79,18 +80,34 @@ template <> struct EnumTable<kprC_ProcedureEnm> {
 
 } // namespace keydeck
 
+/// A boundary condition that a load case applies, and the factor on its values.
+struct klcC_BCEntry {
+  static constexpr const char* Description = "a boundary condition of the load case";
+  double scale = 1.0;
+  template <class V> void Fields(V& v) {
+    v({"scale", "the factor on the condition's values in this load case"}, scale, 1.0);
+  }
+};
+
 /// A load case of an analysis step; its name is its key in the step.
 class klcC_LoadCase {
 public:
-  static constexpr const char* Description =
-      "a load case of the step; it has no fields yet, its name is its key";
+  static constexpr const char* Description = "a load case of the step; its name is its key";
   virtual ~klcC_LoadCase() = default;
   virtual klcC_LoadCase* Copy() const { return new klcC_LoadCase(*this); }
   static constexpr unsigned TypeId() { return keydeck::TypeIds::LoadCase; }
   static bool IsKindOf(unsigned id) { return id == TypeId(); }
   virtual unsigned DynTypeId() const { return TypeId(); }
 
-  template <class V> void Fields(V&) {}
+  template <class V> void Fields(V& v) {
+    v({"includeBaseState", "true to take in the conditions of the base state"}, includeBaseState,
+      false);
+    v({"boundaryConditions", "the boundary conditions of the load case, by name"},
+      boundaryConditions, cow_Btree<cow_String, klcC_BCEntry>());
+  }
+
+  bool includeBaseState = false;
+  cow_Btree<cow_String, klcC_BCEntry> boundaryConditions;
 };
 
 /// A step of the model. The first step of a model is its initial step.

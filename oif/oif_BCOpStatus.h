@@ -18,12 +18,20 @@ public:
     InitializeMembers(steps, NumKeys);
     PopulateMembers<BoltLoad>(bcs, loads);
   }
+  /// The same for a model whose loads the builder does not read yet: the
+  /// boundary conditions alone.
+  template <class BC>
+  void Configure(const kprC_PropagatingContainer<BC>& bcs, const kprC_StepContainer& steps) {
+    InitializeMembers(steps, NumKeys);
+    FlagConditions(bcs);
+  }
   int Key(unsigned typeId) const override;
 
 private:
   template <class BoltLoad, class BC, class Load>
   void PopulateMembers(const kprC_PropagatingContainer<BC>& bcs,
                        const kprC_PropagatingContainer<Load>& loads);
+  template <class BC> void FlagConditions(const kprC_PropagatingContainer<BC>& bcs);
   /// True when a bolt load forces the restart in `step`: its method changes
   /// there (but for the step that creates it), or it is deactivated while its
   /// method is not the first one.
@@ -34,6 +42,20 @@ private:
 template <class BoltLoad, class BC, class Load>
 void oif_BCOpStatus::PopulateMembers(const kprC_PropagatingContainer<BC>& bcs,
                                      const kprC_PropagatingContainer<Load>& loads) {
+  FlagConditions(bcs);
+  // The initial step never restarts a class.
+  for (int i = 1; i < StepCount(); ++i) {
+    const cow_String& step = StepName(i);
+    for (const auto& [name, load] : loads) {
+      if (load->IsSuppressed() || load->DynTypeId() != keydeck::TypeIds::BoltLoad)
+        continue;
+      if (BoltLoadRestarts(keydeck::RecordCast<BoltLoad>(*load), step))
+        Flag(Key(keydeck::TypeIds::BoltLoad), i);
+    }
+  }
+}
+
+template <class BC> void oif_BCOpStatus::FlagConditions(const kprC_PropagatingContainer<BC>& bcs) {
   // The initial step never restarts a class.
   for (int i = 1; i < StepCount(); ++i) {
     const cow_String& step = StepName(i);
@@ -45,12 +67,6 @@ void oif_BCOpStatus::PopulateMembers(const kprC_PropagatingContainer<BC>& bcs,
       const bool modified = status == PropModified || status == PropModifiedBase;
       if (deactivated || (modified && bc->RequiresOpNew(step)))
         Flag(Key(bc->DynTypeId()), i);
-    }
-    for (const auto& [name, load] : loads) {
-      if (load->IsSuppressed() || load->DynTypeId() != keydeck::TypeIds::BoltLoad)
-        continue;
-      if (BoltLoadRestarts(keydeck::RecordCast<BoltLoad>(*load), step))
-        Flag(Key(keydeck::TypeIds::BoltLoad), i);
     }
   }
 }

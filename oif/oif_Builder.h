@@ -4,6 +4,7 @@
 #include "base/cow_List.h"
 #include "base/cow_String.h"
 #include "oif/oif_AmplitudeBuilder.h"
+#include "oif/oif_BoundaryConditionBuilder.h"
 #include "oif/oif_FinalBuilder.h"
 #include "oif/oif_InstanceBuilder.h"
 #include "oif/oif_JobKeywordsBuilder.h"
@@ -75,6 +76,7 @@ private:
   oif_PartAttributesBuilder partAttributes_;
   oif_AmplitudeBuilder amplitude_;
   oif_TransformBuilder transform_;
+  oif_BoundaryConditionBuilder boundaryCondition_;
   oif_FinalBuilder final_;
   bool v6Format_;
   const oif_Model* model_;

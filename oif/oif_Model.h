@@ -20,6 +20,8 @@ public:
   const mdl_MapString2ObjCow<kbpC_BeamProfile>& BeamProfiles() const { return model_.profiles(); }
   /// The amplitudes, in ascending order of name.
   const mdl_MapString2ObjCow<kamC_Amplitude>& Amplitudes() const { return model_.amplitudes(); }
+  /// The boundary conditions, in ascending order of name.
+  const kprC_PropagatingContainer<kbcC_BC>& BCs() const { return model_.boundaryConditions(); }
 
   const kprC_StepContainer& Steps() const override { return model_.step().container(); }
   double AbsoluteZero() const override { return model_.absoluteZero(); }

@@ -4,7 +4,7 @@
 #include "model/database.h"
 #include "model/element_types.h"
 #include "model/regions.h"
-#include "qkw/qkw_QuorvexName.h"
+#include "oif/oif_SetName.h"
 
 #include <algorithm>
 #include <vector>
@@ -179,5 +179,5 @@ void oif_Set::WriteData(utl_Stream& s) const {
 
 void oif_Set::WriteMemberSets(utl_Stream& s, const cow_List<cow_String>& members) {
   for (const cow_String& member : members)
-    s << qkw_QuorvexName(member, false) << ", " << endl;
+    s << oif_SetName::QuoteIfNeeded(member) << ", " << endl; // "instance.set" stays scoped
 }

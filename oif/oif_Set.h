@@ -35,7 +35,8 @@ public:
   /// For a facet set, the face name of each label.
   const cow_List<cow_String> FaceList() const { return faceNames_; }
   /// The data lines of a set made of other sets: one member's name a line,
-  /// quoted as needed, each followed by ", ".
+  /// each followed by ", ". A member "instance.set" keeps its scope: each
+  /// piece is quoted by itself, as needed.
   static void WriteMemberSets(utl_Stream& s, const cow_List<cow_String>& members);
 
 private:

@@ -1,5 +1,6 @@
 #include "oif/oif_TransformBuilder.h"
 
+#include "model/boundary_conditions.h"
 #include "oif/oif_ModelInfo.h"
 #include "oif/oif_Nset.h"
 #include "oif/oif_SetName.h"
@@ -17,13 +18,15 @@ void oif_TransformBuilder::Build() {
   // `GetOrientationName`) are filed here when those families join the model.
 }
 
-// The families that refer to a datum append their objects here as they
-// join the model, in this order: boundary conditions by key, unsuppressed,
-// with a datum or of the symmetry kind (collected even without one);
-// concentrated forces and moments by key, unsuppressed, with a datum; then,
-// in constraint name order, each equation term with a datum, as the
-// assembly's node set of the term. None of them is in the model yet.
-void oif_TransformBuilder::CollectCsysRegionsList() {}
+// The objects that refer to a datum, in this order: boundary conditions by
+// key, unsuppressed, with a datum or of the symmetry kind (collected even
+// without one); then the loads and the equation terms as those families
+// join the model.
+void oif_TransformBuilder::CollectCsysRegionsList() {
+  for (const auto& [name, bc] : keydeck::FacadeOf(*model).BCs())
+    if (!bc->IsSuppressed() && (!bc->csys.IsNullRef() || bc->DynTypeId() == kbcC_SymmetryType))
+      AppendCsysRegion(bc->region, bc->csys);
+}
 
 void oif_TransformBuilder::AppendCsysRegion(const rgnC_Region& region, const dtmC_DatumRef& datum) {
   regions_.Append(region);
@@ -42,7 +45,8 @@ void oif_TransformBuilder::AddTransforms() {
   }
   const ddb_Model& database = keydeck::FacadeOf(*model).Model();
   for (int i = 0; i < count; ++i) {
-    if (setsByDatum.ConstGet(i).Empty())
+    // A symmetry condition without a datum has no system to transform to.
+    if (setsByDatum.ConstGet(i).Empty() || datums_.ConstGet(i).IsNullRef())
       continue;
     const cow_String name = ConstGetDatumName(datums_.ConstGet(i));
     AddAssemblyDefinition(oif_Nset(name, setsByDatum.ConstGet(i)));

@@ -1,5 +1,6 @@
 #include "model/json/derive.h"
 
+#include "model/json/derive_boundary_conditions.h"
 #include "model/json/derive_orientations.h"
 #include "model/json/derive_sections.h"
 #include "model/json/json_text.h"
@@ -796,6 +797,30 @@ void DeriveStepRegions(std::string_view modelPath, ddb_Model& model, LoadErrors&
   }
 }
 
+// The deck joins an instance and its set with a dot and quotes each piece by
+// itself, so a dot inside a name would read as that join: a set "x.y" of the
+// assembly would be set "y" of instance "x". Such names are refused.
+template <class Map>
+void RefuseDots(const Map& names, const std::string& path, const char* what, LoadErrors& errors) {
+  for (const cow_String& name : names.Keys())
+    if (name.View().find('.') != std::string_view::npos)
+      errors.Add(path + "/" + std::string(name.View()),
+                 std::string(what) + " name must not hold a dot: the deck would read " +
+                     QuotedJson(name.View()) + " as an instance and one of its sets");
+}
+
+void RefuseDottedNames(std::string_view modelPath, const ddb_Model& model, LoadErrors& errors) {
+  for (const auto& [name, part] : model.parts_.parts_) {
+    const std::string partPath = std::string(modelPath) + "/parts/" + std::string(name.View());
+    RefuseDots(part.setDefinitions_, partPath + "/sets", "a set", errors);
+    RefuseDots(part.surfaceDefinitions_, partPath + "/surfaces", "a surface", errors);
+  }
+  const std::string assemblyPath = std::string(modelPath) + "/assembly";
+  RefuseDots(model.assembly_.instances_, assemblyPath + "/instances", "an instance", errors);
+  RefuseDots(model.assembly_.setDefinitions_, assemblyPath + "/sets", "a set", errors);
+  RefuseDots(model.assembly_.surfaceDefinitions_, assemblyPath + "/surfaces", "a surface", errors);
+}
+
 template <class M> constexpr bool IsPropagatingMap = false;
 template <std::derived_from<kprC_PropagatingRecord> R>
 constexpr bool IsPropagatingMap<mdl_MapString2ObjCow<R>> = true;
@@ -851,6 +876,7 @@ void DeriveStepStates(std::string_view modelPath, ddb_Model& model, LoadErrors& 
 } // namespace
 
 void DeriveModel(std::string_view modelPath, ddb_Model& model, LoadErrors& errors) {
+  RefuseDottedNames(modelPath, model, errors);
   cow_Btree<cow_String, ddb_Part>& parts = model.parts_.parts_;
   PartLabelMap partLabels;
   SetDeriver deriver(errors);
@@ -879,6 +905,7 @@ void DeriveModel(std::string_view modelPath, ddb_Model& model, LoadErrors& error
   CheckSections(modelPath, model, errors);
   CheckAmplitudes(modelPath, model, errors);
   DeriveStepStates(modelPath, model, errors);
+  DeriveBoundaryConditions(modelPath, model, errors);
 }
 
 } // namespace keydeck

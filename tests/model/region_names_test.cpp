@@ -11,7 +11,7 @@ using namespace keydeck::test;
 
 namespace {
 
-// Instances "Beam-1" (mesh 2) and "a.b" (mesh 3) of one part with the set
+// Instances "Beam-1" (mesh 2) and "b-2" (mesh 3) of one part with the set
 // "Tip" and the surface "Face"; "A" (mesh 1) of a part without sets; the
 // assembly's own sets "Ends" and "Tip".
 const char* const Model = R"({"format": "keydeck-model", "version": 1, "models": {"M": {
@@ -22,8 +22,8 @@ const char* const Model = R"({"format": "keydeck-model", "version": 1, "models":
              "surfaces": {"Face": {"faces": [{"face": "END2", "elements": [1]}]}}},
     "Empty": {}},
   "assembly": {
-    "instances": {"Beam-1": {"part": "Beam"}, "a.b": {"part": "Beam"}, "A": {"part": "Empty"}},
-    "sets": {"Tip": {"nodes": [{"instance": "a.b", "labels": [2]}]},
+    "instances": {"Beam-1": {"part": "Beam"}, "b-2": {"part": "Beam"}, "A": {"part": "Empty"}},
+    "sets": {"Tip": {"nodes": [{"instance": "b-2", "labels": [2]}]},
              "Ends": {"nodes": [{"instance": "Beam-1", "labels": [1, 2]}]}}}}}})";
 
 TEST(RegionNames, ResolveScopedNames) {
@@ -41,7 +41,7 @@ TEST(RegionNames, ResolveScopedNames) {
       {"\"Ends\"", "rootAssembly.setData", 0, "Ends", 2},
       {"Beam-1.Tip", "rootAssembly.mesh[2].setData", 1, "Tip", 2},
       {"Beam-1.Face", "rootAssembly.mesh[2].setData", 0, "Face", 2},
-      {"\"a.b\".Tip", "rootAssembly.mesh[3].setData", 1, "Tip", 3},
+      {"\"b-2\".Tip", "rootAssembly.mesh[3].setData", 1, "Tip", 3},
       {"\"Beam-1\".\"Tip\"", "rootAssembly.mesh[2].setData", 1, "Tip", 2},
   };
   for (const auto& c : cases) {

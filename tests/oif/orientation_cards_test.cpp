@@ -201,7 +201,7 @@ TEST(OrientationCards, TransformBuilderGroupsTheSetsOfOneDatum) {
                                  {"Tip", "Beam-1_Local"},
                                  {"Beam-1.Bolt", "Beam-1_Local"}}),
             "*Nset, nset=_T-Beam-1_Local\n"
-            "\"Beam-1.Bolt\", \n"
+            "Beam-1.Bolt, \n"
             "Tip, \n"
             "*Transform, nset=_T-Beam-1_Local, type=C\n"
             "         10.,           0.,           0.,          10.,           0.,           1.\n"

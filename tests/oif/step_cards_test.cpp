@@ -236,7 +236,7 @@ TEST(StepBuilder, NlgeomStaysOnAndLoadCasesGetHeads) {
       {"name": "B", "procedure": "static", "loadCases": {"C": {}}},
       {"name": "C", "procedure": "anneal"})");
   EXPECT_NE(deck.find("*Step, name=B, nlgeom=YES\n*Static\n1., 1., 1e-05, 1.\n** \n** LOAD CASES\n"
-                      "** \n*Load Case, name=C\n*End Load Case\n*End Step\n"),
+                      "** \n*Load Case, name=C\n*Boundary, op=NEW\n*End Load Case\n*End Step\n"),
             std::string::npos)
       << deck;
   EXPECT_NE(deck.find("*Step, name=C, nlgeom=NO\n*Anneal\n*End Step\n"), std::string::npos) << deck;

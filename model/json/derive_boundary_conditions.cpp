@@ -1,0 +1,97 @@
+#include "model/json/derive_boundary_conditions.h"
+
+#include "model/json/json_text.h"
+#include "model/json/region_names.h"
+
+#include <string>
+#include <vector>
+
+namespace keydeck {
+
+namespace {
+
+// The id of the datum that `scopedName` names: "Datum" of the assembly or
+// "Instance.Datum", which the assembly holds as "Instance_Datum"; 0 for none.
+// The assembly's datums come after those of the parts, so the search runs
+// from the end.
+int FindDatum(const ddb_Model& model, std::string_view scopedName) {
+  std::vector<std::string_view> pieces;
+  std::string why;
+  if (!SplitScopedName(scopedName, pieces, why) || pieces.size() > 2)
+    return 0;
+  const std::string wanted = pieces.size() == 1
+                                 ? std::string(pieces[0])
+                                 : std::string(pieces[0]) + "_" + std::string(pieces[1]);
+  for (int id = model.datums_.Size(); id > 0; --id)
+    if (model.datum(id).Shortcut().View() == wanted)
+      return id;
+  return 0;
+}
+
+// The path of what `step` says of a record at `recordPath`: the record's own
+// fields for the step that creates it, its "steps" entry otherwise.
+std::string StepPath(const std::string& recordPath, const kbcC_BC& bc, const cow_String& step) {
+  return step == bc.createdIn ? recordPath : recordPath + "/steps/" + std::string(step.View());
+}
+
+void CheckStates(const ddb_Model& model, const kbcC_BC& bc, const std::string& path,
+                 LoadErrors& errors) {
+  const kprC_StepContainer& steps = model.step().container();
+  for (int i = 0; i < steps.Size(); ++i) {
+    const cow_String& step = steps.NameAt(i);
+    if (!bc.HasStep(step))
+      continue;
+    const mdl_PropAttr<DeckName>& amplitude = bc.BCState(step).amplitude;
+    if (amplitude.IsModified() && !model.amplitudes().IsMember(amplitude.ConstGet()))
+      errors.Add(StepPath(path, bc, step) + "/amplitude",
+                 "no amplitude " + QuotedJson(amplitude.ConstGet().View()));
+    if (const std::optional<RecordFault> fault = bc.StateFault(step))
+      errors.Add(StepPath(path, bc, step) + "/" + fault->where, fault->what);
+  }
+}
+
+void DeriveOne(ddb_Model& model, kbcC_BC& bc, const std::string& path, LoadErrors& errors) {
+  if (bc.HasRegion()) {
+    bc.region = ResolveRegion(model, bc.regionName.View(), path + "/region", errors);
+    if (bc.region.HasSet() && bc.region.ConstSet().SetType() != res_NodeSet)
+      errors.Add(path + "/region", QuotedJson(bc.regionName.View()) +
+                                       " is an element set; a boundary condition acts on a "
+                                       "node set");
+  }
+  if (!bc.csysName.Empty()) {
+    bc.csys = dtmC_DatumRef(FindDatum(model, bc.csysName.View()));
+    if (bc.csys.IsNullRef())
+      errors.Add(path + "/csys", "no datum " + QuotedJson(bc.csysName.View()) +
+                                     " in the assembly or its instances");
+  }
+  CheckStates(model, bc, path, errors);
+}
+
+void CheckLoadCases(std::string_view modelPath, const ddb_Model& model, LoadErrors& errors) {
+  const kprC_StepContainer& steps = model.step().container();
+  for (int i = 1; i < steps.Size(); ++i) {
+    const kprC_AnalysisStep& step = RecordCast<kprC_AnalysisStep>(steps.StepAt(i));
+    for (const auto& [caseName, loadCase] : step.loadCases)
+      for (const auto& [bcName, entry] : loadCase->boundaryConditions)
+        if (!model.boundaryConditions().IsMember(bcName))
+          errors.Add(std::string(modelPath) + "/steps/" + std::to_string(i) + "/loadCases/" +
+                         std::string(caseName.View()) + "/boundaryConditions/" +
+                         std::string(bcName.View()),
+                     "no boundary condition " + QuotedJson(bcName.View()));
+  }
+}
+
+} // namespace
+
+void DeriveBoundaryConditions(std::string_view modelPath, ddb_Model& model, LoadErrors& errors) {
+  kprC_PropagatingContainer<kbcC_BC>& bcs = model.boundaryConditions_;
+  for (const cow_String& name : bcs.Keys()) {
+    typename kprC_PropagatingContainer<kbcC_BC>::Handle handle = bcs.ConstGetMap().ConstGet(name);
+    DeriveOne(model, handle.Get(),
+              std::string(modelPath) + "/boundaryConditions/" + std::string(name.View()), errors);
+    bcs.Insert(name, std::move(handle));
+  }
+  CheckLoadCases(modelPath, model, errors);
+}
+
+} // namespace keydeck
