@@ -5,6 +5,7 @@
 #include "base/mdl_MapString2ObjCow.h"
 #include "model/amplitudes.h"
 #include "model/datums.h"
+#include "model/loads.h"
 #include "model/materials.h"
 #include "model/mesh.h"
 #include "model/orientations.h"
@@ -218,6 +219,8 @@ public:
     v({"amplitudes", "the amplitudes by name: how a load or condition varies in time"},
       amplitudes_, mdl_MapString2ObjCow<kamC_Amplitude>());
     v({"steps", "the steps in order, the initial step first"}, steps_.steps, kprC_StepContainer());
+    v({"loads", "the loads by name, each with its state per step"}, loads_,
+      kprC_PropagatingContainer<kloC_Load>());
     v({"topLevelSolverInput", "raw solver text written verbatim at the top of the deck"},
       topLevelSolverInput_, cow_String());
     v({"solverInput", "raw solver text written after the assembly, with the model data"},
@@ -246,6 +249,7 @@ public:
   mdl_MapString2ObjCow<kseC_Section> sections_; ///< none until the section families load
   mdl_MapString2ObjCow<kamC_Amplitude> amplitudes_;
   ddb_DdbStepContainer steps_;
+  kprC_PropagatingContainer<kloC_Load> loads_;
   /// Derived after loading: every datum under its id minus 1. Each part's
   /// datums in its frame, the assembly's, then each instance's in the frame
   /// of the assembly.

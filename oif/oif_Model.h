@@ -21,6 +21,7 @@ public:
   const mdl_MapString2ObjCow<kamC_Amplitude>& Amplitudes() const { return model_.amplitudes(); }
 
   const kprC_StepContainer& Steps() const override { return model_.step().container(); }
+  const mdl_MapString2ObjCow<kloC_Load>& Loads() const override { return model_.loads_; }
   double AbsoluteZero() const override { return model_.absoluteZero(); }
   double StefanBoltzmann() const override { return model_.stefanBoltzmann(); }
   cow_String RestartJob() const override { return model_.restartJob(); }

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "base/cow_String.h"
+#include "base/mdl_MapString2ObjCow.h"
 
 class ddb_Model;
+class kloC_Load;
 class kprC_StepContainer;
 
 /// The read-only view of one model that builders and cards use. It works
@@ -23,6 +25,8 @@ public:
   const cow_String& FirstGeneralAnalysisStepName() const { return firstGeneralAnalysisStepName_; }
 
   virtual const kprC_StepContainer& Steps() const = 0;
+  /// The loads, in ascending order of name.
+  virtual const mdl_MapString2ObjCow<kloC_Load>& Loads() const = 0;
   virtual double AbsoluteZero() const = 0;
   virtual double StefanBoltzmann() const = 0;
   virtual cow_String RestartJob() const = 0;

@@ -34,7 +34,6 @@ struct PendingFamily {
 
 inline constexpr PendingFamily PendingFamilies[] = {
     {Holder::Model, "sections", "sections"},
-    {Holder::Model, "loads", "loads"},
     {Holder::Model, "boundaryConditions", "boundary conditions"},
     {Holder::Model, "fields", "fields"},
     {Holder::Model, "predefinedFields", "predefined fields"},
