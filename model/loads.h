@@ -240,9 +240,9 @@ public:
 class kloC_MagnitudeState {
 public:
   template <class V> void Fields(V& v) {
-    v({"amplitude", "the name of the amplitude the load follows"}, amplitude);
-    v({"magnitude", "the value of the load"}, magnitude);
-    v({"imaginary", "the imaginary part of a complex load"}, imaginary);
+    v({"amplitude", "the name of the amplitude the load follows"}, amplitude, mdl_PropAttr<keydeck::DeckName>());
+    v({"magnitude", "the value of the load"}, magnitude, mdl_PropAttr<double>());
+    v({"imaginary", "the imaginary part of a complex load"}, imaginary, mdl_PropAttr<double>());
   }
 
   mdl_PropAttr<keydeck::DeckName> amplitude;
@@ -254,13 +254,13 @@ public:
 class kloC_VectorState {
 public:
   template <class V> void Fields(V& v) {
-    v({"amplitude", "the name of the amplitude the load follows"}, amplitude);
-    v({"component1", "the first component"}, component1);
-    v({"component2", "the second component"}, component2);
-    v({"component3", "the third component"}, component3);
-    v({"imaginary1", "the imaginary part of the first component"}, imaginary1);
-    v({"imaginary2", "the imaginary part of the second component"}, imaginary2);
-    v({"imaginary3", "the imaginary part of the third component"}, imaginary3);
+    v({"amplitude", "the name of the amplitude the load follows"}, amplitude, mdl_PropAttr<keydeck::DeckName>());
+    v({"component1", "the first component"}, component1, mdl_PropAttr<double>());
+    v({"component2", "the second component"}, component2, mdl_PropAttr<double>());
+    v({"component3", "the third component"}, component3, mdl_PropAttr<double>());
+    v({"imaginary1", "the imaginary part of the first component"}, imaginary1, mdl_PropAttr<double>());
+    v({"imaginary2", "the imaginary part of the second component"}, imaginary2, mdl_PropAttr<double>());
+    v({"imaginary3", "the imaginary part of the third component"}, imaginary3, mdl_PropAttr<double>());
   }
   /// True when the state gives any imaginary part: a complex load.
   bool Complex() const {
@@ -278,8 +278,8 @@ class kloC_PressureState : public kloC_MagnitudeState {
 public:
   template <class V> void Fields(V& v) {
     kloC_MagnitudeState::Fields(v);
-    v({"zeroHeight", "hydrostatic: the height of zero pressure"}, zeroHeight);
-    v({"referenceHeight", "hydrostatic: the height where the magnitude holds"}, referenceHeight);
+    v({"zeroHeight", "hydrostatic: the height of zero pressure"}, zeroHeight, mdl_PropAttr<double>());
+    v({"referenceHeight", "hydrostatic: the height where the magnitude holds"}, referenceHeight, mdl_PropAttr<double>());
   }
 
   mdl_PropAttr<double> zeroHeight;
@@ -291,9 +291,9 @@ public:
 class kloC_BoltLoadState {
 public:
   template <class V> void Fields(V& v) {
-    v({"amplitude", "the name of the amplitude the load follows"}, amplitude);
-    v({"method", "how the bolt load acts: a force, or a length adjusted or fixed"}, method);
-    v({"magnitude", "the force, or the length adjustment"}, magnitude);
+    v({"amplitude", "the name of the amplitude the load follows"}, amplitude, mdl_PropAttr<keydeck::DeckName>());
+    v({"method", "how the bolt load acts: a force, or a length adjusted or fixed"}, method, mdl_PropAttr<kloC_BoltLoadMethodEnm>());
+    v({"magnitude", "the force, or the length adjustment"}, magnitude, mdl_PropAttr<double>());
   }
 
   mdl_PropAttr<keydeck::DeckName> amplitude;
