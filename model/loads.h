@@ -80,8 +80,7 @@ template <> struct EnumTable<kloC_LoadTypeEnm> {
       {kloC_BodyHeatFluxType, "Body heat flux", "bodyHeatFlux"},
       {kloC_BodyConcentrationFluxType, "Body concentration flux", "bodyConcentrationFlux"},
       {kloC_SurfaceHeatFluxType, "Surface heat flux", "surfaceHeatFlux"},
-      {kloC_SurfaceConcentrationFluxType, "Surface concentration flux",
-       "surfaceConcentrationFlux"},
+      {kloC_SurfaceConcentrationFluxType, "Surface concentration flux", "surfaceConcentrationFlux"},
       {kloC_SurfacePoreFluidType, "Surface pore fluid", "surfacePoreFluid"},
       {kloC_HydroFluidFlowType, "Fluid cavity flux", "fluidFlux"},
       {kloC_BodyChargeType, "Body charge", "bodyCharge"},
@@ -240,7 +239,8 @@ public:
 class kloC_MagnitudeState {
 public:
   template <class V> void Fields(V& v) {
-    v({"amplitude", "the name of the amplitude the load follows"}, amplitude, mdl_PropAttr<keydeck::DeckName>());
+    v({"amplitude", "the name of the amplitude the load follows"}, amplitude,
+      mdl_PropAttr<keydeck::DeckName>());
     v({"magnitude", "the value of the load"}, magnitude, mdl_PropAttr<double>());
     v({"imaginary", "the imaginary part of a complex load"}, imaginary, mdl_PropAttr<double>());
   }
@@ -254,13 +254,17 @@ public:
 class kloC_VectorState {
 public:
   template <class V> void Fields(V& v) {
-    v({"amplitude", "the name of the amplitude the load follows"}, amplitude, mdl_PropAttr<keydeck::DeckName>());
+    v({"amplitude", "the name of the amplitude the load follows"}, amplitude,
+      mdl_PropAttr<keydeck::DeckName>());
     v({"component1", "the first component"}, component1, mdl_PropAttr<double>());
     v({"component2", "the second component"}, component2, mdl_PropAttr<double>());
     v({"component3", "the third component"}, component3, mdl_PropAttr<double>());
-    v({"imaginary1", "the imaginary part of the first component"}, imaginary1, mdl_PropAttr<double>());
-    v({"imaginary2", "the imaginary part of the second component"}, imaginary2, mdl_PropAttr<double>());
-    v({"imaginary3", "the imaginary part of the third component"}, imaginary3, mdl_PropAttr<double>());
+    v({"imaginary1", "the imaginary part of the first component"}, imaginary1,
+      mdl_PropAttr<double>());
+    v({"imaginary2", "the imaginary part of the second component"}, imaginary2,
+      mdl_PropAttr<double>());
+    v({"imaginary3", "the imaginary part of the third component"}, imaginary3,
+      mdl_PropAttr<double>());
   }
   /// True when the state gives any imaginary part: a complex load.
   bool Complex() const {
@@ -278,8 +282,10 @@ class kloC_PressureState : public kloC_MagnitudeState {
 public:
   template <class V> void Fields(V& v) {
     kloC_MagnitudeState::Fields(v);
-    v({"zeroHeight", "hydrostatic: the height of zero pressure"}, zeroHeight, mdl_PropAttr<double>());
-    v({"referenceHeight", "hydrostatic: the height where the magnitude holds"}, referenceHeight, mdl_PropAttr<double>());
+    v({"zeroHeight", "hydrostatic: the height of zero pressure"}, zeroHeight,
+      mdl_PropAttr<double>());
+    v({"referenceHeight", "hydrostatic: the height where the magnitude holds"}, referenceHeight,
+      mdl_PropAttr<double>());
   }
 
   mdl_PropAttr<double> zeroHeight;
@@ -291,8 +297,10 @@ public:
 class kloC_BoltLoadState {
 public:
   template <class V> void Fields(V& v) {
-    v({"amplitude", "the name of the amplitude the load follows"}, amplitude, mdl_PropAttr<keydeck::DeckName>());
-    v({"method", "how the bolt load acts: a force, or a length adjusted or fixed"}, method, mdl_PropAttr<kloC_BoltLoadMethodEnm>());
+    v({"amplitude", "the name of the amplitude the load follows"}, amplitude,
+      mdl_PropAttr<keydeck::DeckName>());
+    v({"method", "how the bolt load acts: a force, or a length adjusted or fixed"}, method,
+      mdl_PropAttr<kloC_BoltLoadMethodEnm>());
     v({"magnitude", "the force, or the length adjustment"}, magnitude, mdl_PropAttr<double>());
   }
 
@@ -345,8 +353,8 @@ struct LoadCsys {
 
 /// A force on the nodes of a node set: "*Cload" on DOF 1 to 3.
 class kloC_ConcentratedForce
-    : public keydeck::LoadKind<kloC_ConcentratedForce, kloC_ConcentratedForceType,
-                               kloC_VectorState, kloC_Load::NodeRegion>,
+    : public keydeck::LoadKind<kloC_ConcentratedForce, kloC_ConcentratedForceType, kloC_VectorState,
+                               kloC_Load::NodeRegion>,
       public keydeck::LoadCsys {
 public:
   static constexpr const char* Description = "a force on each node of a node set";
@@ -383,8 +391,8 @@ public:
 
 /// A bolt load: a force on the bolt's reference node, or a boundary
 /// condition on its length.
-class kloC_BoltLoad : public keydeck::LoadKind<kloC_BoltLoad, kloC_BoltLoadType,
-                                               kloC_BoltLoadState, kloC_Load::NodeRegion> {
+class kloC_BoltLoad : public keydeck::LoadKind<kloC_BoltLoad, kloC_BoltLoadType, kloC_BoltLoadState,
+                                               kloC_Load::NodeRegion> {
 public:
   static constexpr const char* Description =
       "a bolt load on the reference node of a pre-tension section";
@@ -399,17 +407,15 @@ public:
 };
 
 /// An inward volume acceleration at the nodes of a node set.
-class kloC_InwardVolAccel
-    : public keydeck::LoadKind<kloC_InwardVolAccel, kloC_InwardVolAccelType, kloC_MagnitudeState,
-                               kloC_Load::NodeRegion> {
+class kloC_InwardVolAccel : public keydeck::LoadKind<kloC_InwardVolAccel, kloC_InwardVolAccelType,
+                                                     kloC_MagnitudeState, kloC_Load::NodeRegion> {
 public:
   static constexpr const char* Description = "an inward volume acceleration at each node";
 };
 
 /// A force on connector elements, components 1 to 3.
-class kloC_ConnectorForce
-    : public keydeck::LoadKind<kloC_ConnectorForce, kloC_ConnectorForceType, kloC_VectorState,
-                               kloC_Load::ElementRegion> {
+class kloC_ConnectorForce : public keydeck::LoadKind<kloC_ConnectorForce, kloC_ConnectorForceType,
+                                                     kloC_VectorState, kloC_Load::ElementRegion> {
 public:
   static constexpr const char* Description = "a force on the connectors of an element set";
 };
@@ -520,9 +526,8 @@ public:
 };
 
 /// A pressure inside or outside the pipes of an element set.
-class kloC_PipePressure
-    : public keydeck::LoadKind<kloC_PipePressure, kloC_PipePressureType, kloC_PressureState,
-                               kloC_Load::ElementRegion> {
+class kloC_PipePressure : public keydeck::LoadKind<kloC_PipePressure, kloC_PipePressureType,
+                                                   kloC_PressureState, kloC_Load::ElementRegion> {
 public:
   static constexpr const char* Description = "a pressure inside or outside the pipes of a set";
   template <class V> void Fields(V& v) {
@@ -562,8 +567,8 @@ public:
 };
 
 /// A pressure on a surface.
-class kloC_Pressure : public keydeck::LoadKind<kloC_Pressure, kloC_PressureType,
-                                               kloC_PressureState, kloC_Load::SurfaceRegion> {
+class kloC_Pressure : public keydeck::LoadKind<kloC_Pressure, kloC_PressureType, kloC_PressureState,
+                                               kloC_Load::SurfaceRegion> {
 public:
   static constexpr const char* Description = "a pressure on a surface";
   template <class V> void Fields(V& v) {
@@ -586,8 +591,8 @@ public:
     v({"distribution", "uniform, or by a user subroutine"}, distribution, kloC_Uniform);
     v({"direction", "the direction of the traction, of non-zero length"}, direction);
     v({"follower", "true when the traction turns with the surface"}, follower, true);
-    v({"constantResultant", "true to keep the resultant as the surface deforms"},
-      constantResultant, false);
+    v({"constantResultant", "true to keep the resultant as the surface deforms"}, constantResultant,
+      false);
   }
   kloC_TractionKindEnm kind = kloC_GeneralTraction;
   kloC_DistributionEnm distribution = kloC_Uniform;
@@ -597,9 +602,8 @@ public:
 };
 
 /// A load on the edges of shells, given as an edge surface.
-class kloC_ShellEdgeLoad
-    : public keydeck::LoadKind<kloC_ShellEdgeLoad, kloC_ShellEdgeLoadType, kloC_MagnitudeState,
-                               kloC_Load::SurfaceRegion> {
+class kloC_ShellEdgeLoad : public keydeck::LoadKind<kloC_ShellEdgeLoad, kloC_ShellEdgeLoadType,
+                                                    kloC_MagnitudeState, kloC_Load::SurfaceRegion> {
 public:
   static constexpr const char* Description = "a load on shell edges, given as an edge surface";
   template <class V> void Fields(V& v) {
@@ -617,9 +621,8 @@ public:
   bool follower = true;
 };
 
-class kloC_BodyHeatFlux
-    : public keydeck::DistributedKind<kloC_BodyHeatFlux, kloC_BodyHeatFluxType,
-                                      kloC_Load::ElementRegion> {
+class kloC_BodyHeatFlux : public keydeck::DistributedKind<kloC_BodyHeatFlux, kloC_BodyHeatFluxType,
+                                                          kloC_Load::ElementRegion> {
 public:
   static constexpr const char* Description = "a heat flux per volume in an element set";
 };
@@ -652,22 +655,21 @@ public:
   static constexpr const char* Description = "a pore fluid flow per area into a surface";
 };
 
-class kloC_HydroFluidFlow
-    : public keydeck::PlainKind<kloC_HydroFluidFlow, kloC_HydroFluidFlowType,
-                                kloC_Load::NodeRegion> {
+class kloC_HydroFluidFlow : public keydeck::PlainKind<kloC_HydroFluidFlow, kloC_HydroFluidFlowType,
+                                                      kloC_Load::NodeRegion> {
 public:
   static constexpr const char* Description =
       "a fluid flow into a fluid cavity, at the cavity's reference node set";
 };
 
-class kloC_BodyCharge : public keydeck::PlainKind<kloC_BodyCharge, kloC_BodyChargeType,
-                                                  kloC_Load::ElementRegion> {
+class kloC_BodyCharge
+    : public keydeck::PlainKind<kloC_BodyCharge, kloC_BodyChargeType, kloC_Load::ElementRegion> {
 public:
   static constexpr const char* Description = "an electric charge per volume in an element set";
 };
 
-class kloC_BodyCurrent : public keydeck::PlainKind<kloC_BodyCurrent, kloC_BodyCurrentType,
-                                                   kloC_Load::ElementRegion> {
+class kloC_BodyCurrent
+    : public keydeck::PlainKind<kloC_BodyCurrent, kloC_BodyCurrentType, kloC_Load::ElementRegion> {
 public:
   static constexpr const char* Description = "an electric current per volume in an element set";
 };
@@ -685,10 +687,9 @@ public:
 };
 
 /// Inertia relief of the whole model, in a datum system or the global one.
-class kloC_InertiaRelief
-    : public keydeck::LoadKind<kloC_InertiaRelief, kloC_InertiaReliefType, kloC_NoState,
-                               kloC_Load::NoRegion>,
-      public keydeck::LoadCsys {
+class kloC_InertiaRelief : public keydeck::LoadKind<kloC_InertiaRelief, kloC_InertiaReliefType,
+                                                    kloC_NoState, kloC_Load::NoRegion>,
+                           public keydeck::LoadCsys {
 public:
   static constexpr const char* Description = "inertia relief of the whole model";
   template <class V> void Fields(V& v) {
@@ -702,15 +703,16 @@ namespace keydeck {
 /// The load classes a model file can use.
 template <> struct RecordKinds<kloC_Load> {
   static constexpr std::string_view Field = "type";
-  using Types = KindList<
-      kloC_ConcentratedForce, kloC_Moment, kloC_PEGLoad, kloC_BoltLoad, kloC_ConcentratedPoreFluid,
-      kloC_InwardVolAccel, kloC_ConnectorForce, kloC_ConnectorMoment, kloC_ConcentratedHeatFlux,
-      kloC_ConcentratedConcentrationFlux, kloC_ConcentratedCharge, kloC_ConcentratedCurrent,
-      kloC_Gravity, kloC_BodyForce, kloC_LineLoad, kloC_PipePressure, kloC_RotationalBodyForce,
-      kloC_Pressure, kloC_SurfaceTraction, kloC_ShellEdgeLoad, kloC_BodyHeatFlux,
-      kloC_BodyConcentrationFlux, kloC_SurfaceHeatFlux, kloC_SurfaceConcentrationFlux,
-      kloC_SurfacePoreFluid, kloC_HydroFluidFlow, kloC_BodyCharge, kloC_BodyCurrent,
-      kloC_SurfaceCharge, kloC_SurfaceCurrent, kloC_InertiaRelief>;
+  using Types =
+      KindList<kloC_ConcentratedForce, kloC_Moment, kloC_PEGLoad, kloC_BoltLoad,
+               kloC_ConcentratedPoreFluid, kloC_InwardVolAccel, kloC_ConnectorForce,
+               kloC_ConnectorMoment, kloC_ConcentratedHeatFlux, kloC_ConcentratedConcentrationFlux,
+               kloC_ConcentratedCharge, kloC_ConcentratedCurrent, kloC_Gravity, kloC_BodyForce,
+               kloC_LineLoad, kloC_PipePressure, kloC_RotationalBodyForce, kloC_Pressure,
+               kloC_SurfaceTraction, kloC_ShellEdgeLoad, kloC_BodyHeatFlux,
+               kloC_BodyConcentrationFlux, kloC_SurfaceHeatFlux, kloC_SurfaceConcentrationFlux,
+               kloC_SurfacePoreFluid, kloC_HydroFluidFlow, kloC_BodyCharge, kloC_BodyCurrent,
+               kloC_SurfaceCharge, kloC_SurfaceCurrent, kloC_InertiaRelief>;
 };
 
 /// The amplitude name of a load's state in `step`, whatever its kind; unset

@@ -78,7 +78,8 @@ oif_Builder::BuilderList oif_Builder::WritingList() const {
   // The writing list fixes the order of cards inside every block of the deck.
   BuilderList builders;
   for (const qkw_BuilderComponent* builder : std::initializer_list<const qkw_BuilderComponent*>{
-           &part_, &instance_, &step_, &region_, &amplitude_, &material_, &transform_, &load_, &final_})
+           &part_, &instance_, &step_, &region_, &amplitude_, &material_, &transform_, &load_,
+           &final_})
     builders.Append(cow_ArrayCOW<qkw_BuilderComponent>(*builder));
   return builders;
 }

@@ -3,5 +3,7 @@
 qkw_Keyword* oif_Dsflux::Copy() const { return new oif_Dsflux(*this); }
 
 void oif_Dsflux::Write(utl_Stream& s) const {
-  keydeck::WriteFluxForm(s, "*Dsflux", card_, keydeck::DistributionOf(*card_.load) == kloC_UserDefined ? ", SNU, " : ", S, ");
+  keydeck::WriteFluxForm(s, "*Dsflux", card_,
+                         keydeck::DistributionOf(*card_.load) == kloC_UserDefined ? ", SNU, "
+                                                                                  : ", S, ");
 }

@@ -7,7 +7,7 @@
 class oif_Dsflux : public qkw_Keyword {
 public:
   oif_Dsflux(const keydeck::LoadHandle& load, const cow_String& step, bool opMod,
-         const cow_String& setName, double scale)
+             const cow_String& setName, double scale)
       : card_(load, step, opMod, setName, scale) {}
   qkw_Keyword* Copy() const override;
   void Write(utl_Stream& s) const override;

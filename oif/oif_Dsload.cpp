@@ -88,7 +88,7 @@ void oif_Dsload::WriteDirected(utl_Stream& s, const cow_String& label, bool foll
                                bool withDirection) const {
   const kloC_MagnitudeState& state = MagnitudeStateOf(*card_.load, card_.step);
   const double length = std::sqrt(direction[0] * direction[0] + direction[1] * direction[1] +
-                                   direction[2] * direction[2]);
+                                  direction[2] * direction[2]);
   const auto line = [&](double value) {
     s << card_.setName << ", " << label << ", " << value * card_.scale;
     if (withDirection)

@@ -113,8 +113,8 @@ void oif_LoadBuilder::LoadCardDetails(const cow_String& name, const LoadHandle& 
 }
 
 void oif_LoadBuilder::AddLoadCard(const LoadHandle& load, const cow_String& step,
-                                  const cow_String& loadCase, bool opMod,
-                                  const cow_String& setName, double scale) {
+                                  const cow_String& loadCase, bool opMod, const cow_String& setName,
+                                  double scale) {
   const auto add = [&](const qkw_Keyword& card) { AddStepDefinition(step, card, loadCase); };
   switch (load->DynTypeId()) {
   case kloC_ConcentratedForceType:

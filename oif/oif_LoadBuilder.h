@@ -31,8 +31,7 @@ private:
                        const cow_String& step, const cow_String& loadCase, double scale);
   /// Files the card of the load's kind under the step and load case.
   void AddLoadCard(const keydeck::LoadHandle& load, const cow_String& step,
-                   const cow_String& loadCase, bool opMod, const cow_String& setName,
-                   double scale);
+                   const cow_String& loadCase, bool opMod, const cow_String& setName, double scale);
   /// True when no other inertia relief load is created, changed or
   /// deactivated in `step`.
   bool CheckForUniqueIRLoad(const cow_String& loadName, const cow_String& step) const;

@@ -54,8 +54,8 @@ namespace {
 
 // Calls `use(state)` with the state of `load` in `step` when its kind keeps
 // a state of class `State`.
-template <class State, class F> void WithStateOf(const kloC_Load& load, const cow_String& step,
-                                                 F&& use) {
+template <class State, class F>
+void WithStateOf(const kloC_Load& load, const cow_String& step, F&& use) {
   VisitTypeIdClass<kloC_Load>(load.DynTypeId(), [&](auto type) {
     using K = typename decltype(type)::type;
     const auto& state = RecordCast<K>(load).ConstGetState(step);

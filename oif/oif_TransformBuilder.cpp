@@ -29,8 +29,8 @@ void oif_TransformBuilder::Build() {
 void oif_TransformBuilder::CollectCsysRegionsList() {
   for (const auto& [name, load] : model->Loads()) { // name order
     const unsigned type = load->DynTypeId();
-    if (load->IsSuppressed() || (type != kloC_ConcentratedForce::TypeId() &&
-                                 type != kloC_Moment::TypeId()))
+    if (load->IsSuppressed() ||
+        (type != kloC_ConcentratedForce::TypeId() && type != kloC_Moment::TypeId()))
       continue;
     const dtmC_DatumRef& csys = type == kloC_Moment::TypeId()
                                     ? keydeck::RecordCast<kloC_Moment>(*load).csys

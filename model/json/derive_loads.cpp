@@ -37,8 +37,9 @@ res_SetTypeEnm SetTypeOf(kloC_Load::RegionKindEnm kind) {
   return res_FacetSet;
 }
 
+// "a load of type \"pressure\"", as the messages name a load's kind.
 std::string LabelOf(const kloC_Load& load) {
-  return std::string(FindEnumEntry(load.type)->fileText);
+  return "a load of type " + QuotedJson(FindEnumEntry(load.type)->fileText);
 }
 
 void DeriveRegion(const ddb_Model& model, kloC_Load& load, const std::string& path,
@@ -46,11 +47,11 @@ void DeriveRegion(const ddb_Model& model, kloC_Load& load, const std::string& pa
   const kloC_Load::RegionKindEnm kind = load.RegionKind();
   if (load.regionName.Empty()) {
     if (kind != kloC_Load::NoRegion && !load.WholeModel())
-      errors.Add(path + "/region", "a " + LabelOf(load) + " load needs " + RegionWords(kind));
+      errors.Add(path + "/region", LabelOf(load) + " needs " + RegionWords(kind));
     return;
   }
   if (kind == kloC_Load::NoRegion) {
-    errors.Add(path + "/region", "a " + LabelOf(load) + " load takes no region");
+    errors.Add(path + "/region", LabelOf(load) + " takes no region");
     return;
   }
   const std::string regionPath = path + "/region";
@@ -60,8 +61,8 @@ void DeriveRegion(const ddb_Model& model, kloC_Load& load, const std::string& pa
   if (region.ConstSet().SetType() != SetTypeOf(kind)) {
     const char* const found[] = {"a node set", "an element set", "a surface"};
     errors.Add(regionPath, QuotedJson(load.regionName.View()) + " is " +
-                               found[region.ConstSet().SetType()] + "; a " + LabelOf(load) +
-                               " load needs " + RegionWords(kind));
+                               found[region.ConstSet().SetType()] + "; " + LabelOf(load) +
+                               " needs " + RegionWords(kind));
     return;
   }
   load.region = std::move(region);
@@ -150,7 +151,8 @@ void CheckLoadCases(const ddb_Model& model, const kloC_Load& load, const std::st
 bool IsZero(const std::array<double, 3>& v) { return v[0] == 0 && v[1] == 0 && v[2] == 0; }
 
 // The checks of the fields that only some kinds have.
-template <class K> void CheckKindFields(const K& load, const std::string& path, LoadErrors& errors) {
+template <class K>
+void CheckKindFields(const K& load, const std::string& path, LoadErrors& errors) {
   if constexpr (requires { load.distribution; }) {
     if (load.distribution == kloC_Hydrostatic && !std::is_same_v<K, kloC_Pressure> &&
         !std::is_same_v<K, kloC_PipePressure>)
