@@ -216,8 +216,8 @@ public:
     v({"parts", "the parts by name"}, parts_.parts_, cow_Btree<cow_String, ddb_Part>());
     v({"assembly", "the assembly of part instances"}, assembly_, ddb_Assembly());
     v({"materials", "the materials by name"}, materials_, mdl_MapString2ObjCow<kmaC_Material>());
-    v({"amplitudes", "the amplitudes by name: how a load or condition varies in time"}, amplitudes_,
-      mdl_MapString2ObjCow<kamC_Amplitude>());
+    v({"amplitudes", "the amplitudes by name: how a load or condition varies in time"},
+      amplitudes_, mdl_MapString2ObjCow<kamC_Amplitude>());
     v({"steps", "the steps in order, the initial step first"}, steps_.steps, kprC_StepContainer());
     v({"loads", "the loads by name, each with its state per step"}, loads_,
       kprC_PropagatingContainer<kloC_Load>());

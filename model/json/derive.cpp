@@ -757,7 +757,8 @@ private:
       handle.Get().DeriveStates(steps_, faults);
       for (const RecordFault& fault : faults)
         errors_.Add(std::string(modelPath_) + "/" + std::string(mapName) + "/" +
-                        std::string(name.View()) + "/" + fault.where,
+                        std::string(name.View()) + "/" +
+                        fault.where,
                     fault.what);
       records.Insert(name, std::move(handle));
     }
