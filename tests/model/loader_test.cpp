@@ -287,7 +287,6 @@ TEST(Loader, StepMessages) {
 TEST(Loader, FamiliesNotSupportedYet) {
   const std::pair<const char*, const char*> modelKeys[] = {
       {"sections", "sections"},
-      {"loads", "loads"},
       {"boundaryConditions", "boundary conditions"},
       {"fields", "fields"},
       {"predefinedFields", "predefined fields"},
