@@ -292,3 +292,30 @@ TEST(LoadCards, ACardOfAnotherKindRaises) {
   EXPECT_EQ(raised(oif_Dsload(LoadOf(odb, "F"), "S1", true, "Load", 1.0)),
             "\"Invalid load type for *Dsload\" == 0");
 }
+
+TEST(LoadBuilder, ConcentratedAndFlowLoadsOfEachKind) {
+  EXPECT_EQ(LoadBlocks(R"({
+        "J": {"type": "connectorMoment", "region": "B-1.All", "createdIn": "S1", "component2": 3},
+        "K": {"type": "concentratedPoreFluid", "region": "B-1.Tip", "createdIn": "S1",
+              "magnitude": 2},
+        "L": {"type": "inwardVolumeAcceleration", "region": "B-1.Edge", "createdIn": "S1",
+              "magnitude": 0},
+        "M": {"type": "generalizedPlaneStrain", "region": "Load", "createdIn": "S1",
+              "component1": 1, "component3": 2},
+        "N": {"type": "pipePressure", "region": "B-1.All", "createdIn": "S1", "side": "outside",
+              "distribution": "hydrostatic", "magnitude": 2, "zeroHeight": 5,
+              "referenceHeight": 1, "diameter": 0.3},
+        "O": {"type": "fluidFlux", "region": "B-1.Tip", "createdIn": "S1", "magnitude": 4},
+        "P": {"type": "bodyCurrent", "region": "B-1.All", "createdIn": "S1", "magnitude": 0}})",
+                       R"([{"name": "Initial"}, {"name": "S1", "procedure": "static"}])"),
+            "-- S1\n** LOADS\n"
+            "** Name: J   Type: Connector moment\n*Connector Load\nB-1.All, 5, 3.\n"
+            "** Name: K   Type: Concentrated pore fluid\n*Cload\nB-1.Tip, 8, 2.\n"
+            // a zero value of one of these is written all the same
+            "** Name: L   Type: Inward volume acceleration\n*Cload\nB-1.Edge, 8, 0.\n"
+            "** Name: M   Type: Generalized plane strain\n*Cload\nLoad, 3, 1.\nLoad, 5, 2.\n"
+            "** Name: N   Type: Pipe pressure\n*Dload\nB-1.All, HPE, 2., 5., 1., 0.3\n"
+            "** Name: O   Type: Fluid cavity flux\n*Fluid Flux\nB-1.Tip, 4.\n"
+            // but not that of a charge or current
+            "** Name: P   Type: Body current\n*Decurrent\n");
+}
