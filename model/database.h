@@ -6,6 +6,7 @@
 #include "model/amplitudes.h"
 #include "model/boundary_conditions.h"
 #include "model/datums.h"
+#include "model/loads.h"
 #include "model/materials.h"
 #include "model/mesh.h"
 #include "model/orientations.h"
@@ -222,6 +223,7 @@ public:
   const kprC_PropagatingContainer<kbcC_BC>& boundaryConditions() const {
     return boundaryConditions_;
   }
+  const kprC_PropagatingContainer<kloC_Load>& loads() const { return loads_; }
 
   template <class V> void Fields(V& v) {
     v({"parts", "the parts by name"}, parts_.parts_, cow_Btree<cow_String, ddb_Part>());
@@ -231,11 +233,13 @@ public:
       mdl_MapString2ObjCow<kseC_Section>());
     v({"profiles", "the beam profiles by name: the shapes of beam sections"}, profiles_,
       mdl_MapString2ObjCow<kbpC_BeamProfile>());
-    v({"amplitudes", "the amplitudes by name: how a load or condition varies in time"},
-      amplitudes_, mdl_MapString2ObjCow<kamC_Amplitude>());
+    v({"amplitudes", "the amplitudes by name: how a load or condition varies in time"}, amplitudes_,
+      mdl_MapString2ObjCow<kamC_Amplitude>());
     v({"steps", "the steps in order, the initial step first"}, steps_.steps, kprC_StepContainer());
     v({"boundaryConditions", "the boundary conditions by name, with what each step does to them"},
       boundaryConditions_, kprC_PropagatingContainer<kbcC_BC>());
+    v({"loads", "the loads by name, each with its state per step"}, loads_,
+      kprC_PropagatingContainer<kloC_Load>());
     v({"topLevelSolverInput", "raw solver text written verbatim at the top of the deck"},
       topLevelSolverInput_, cow_String());
     v({"solverInput", "raw solver text written after the assembly, with the model data"},
@@ -266,6 +270,7 @@ public:
   mdl_MapString2ObjCow<kamC_Amplitude> amplitudes_;
   kprC_PropagatingContainer<kbcC_BC> boundaryConditions_;
   ddb_DdbStepContainer steps_;
+  kprC_PropagatingContainer<kloC_Load> loads_;
   /// Derived after loading: every datum under its id minus 1. Each part's
   /// datums in its frame, the assembly's, then each instance's in the frame
   /// of the assembly.

@@ -8,6 +8,7 @@
 #include "oif/oif_FinalBuilder.h"
 #include "oif/oif_InstanceBuilder.h"
 #include "oif/oif_JobKeywordsBuilder.h"
+#include "oif/oif_LoadBuilder.h"
 #include "oif/oif_MaterialBuilder.h"
 #include "oif/oif_PartAttributesBuilder.h"
 #include "oif/oif_PartBuilder.h"
@@ -77,6 +78,7 @@ private:
   oif_AmplitudeBuilder amplitude_;
   oif_TransformBuilder transform_;
   oif_BoundaryConditionBuilder boundaryCondition_;
+  oif_LoadBuilder load_;
   oif_FinalBuilder final_;
   bool v6Format_;
   const oif_Model* model_;

@@ -22,6 +22,8 @@ public:
   const mdl_MapString2ObjCow<kamC_Amplitude>& Amplitudes() const { return model_.amplitudes(); }
   /// The boundary conditions, in ascending order of name.
   const kprC_PropagatingContainer<kbcC_BC>& BCs() const { return model_.boundaryConditions(); }
+  /// The loads, in ascending order of name.
+  const kprC_PropagatingContainer<kloC_Load>& Loads() const { return model_.loads(); }
 
   const kprC_StepContainer& Steps() const override { return model_.step().container(); }
   double AbsoluteZero() const override { return model_.absoluteZero(); }

@@ -3,6 +3,7 @@
 #include "model/boundary_conditions.h"
 #include "oif/oif_ModelInfo.h"
 #include "oif/oif_Nset.h"
+#include "oif/oif_Orientation.h"
 #include "oif/oif_SetName.h"
 #include "oif/oif_Transform.h"
 
@@ -13,19 +14,33 @@ qkw_BuilderComponent* oif_TransformBuilder::Copy() const { return new oif_Transf
 void oif_TransformBuilder::Build() {
   CollectCsysRegionsList();
   AddTransforms();
-  // The "*Orientation" cards of connector orientations, couplings and
-  // inertia relief loads (each datum and additional rotation once, by
-  // `GetOrientationName`) are filed here when those families join the model.
+  // The "*Orientation" cards of connector orientations and couplings (each
+  // datum and additional rotation once, by `GetOrientationName`) are filed
+  // here, ahead of those of inertia relief loads, when those families join
+  // the model.
+  AddInertiaReliefOrientations();
 }
 
 // The objects that refer to a datum, in this order: boundary conditions by
 // key, unsuppressed, with a datum or of the symmetry kind (collected even
-// without one); then the loads and the equation terms as those families
-// join the model.
+// without one); concentrated forces and moments by key, unsuppressed, with a
+// datum; then, in constraint name order, each equation term with a datum, as
+// the assembly's node set of the term, when constraints join the model.
 void oif_TransformBuilder::CollectCsysRegionsList() {
   for (const auto& [name, bc] : keydeck::FacadeOf(*model).BCs())
     if (!bc->IsSuppressed() && (!bc->csys.IsNullRef() || bc->DynTypeId() == kbcC_SymmetryType))
       AppendCsysRegion(bc->region, bc->csys);
+  for (const auto& [name, load] : keydeck::FacadeOf(*model).Loads()) { // name order
+    const unsigned type = load->DynTypeId();
+    if (load->IsSuppressed() ||
+        (type != kloC_ConcentratedForce::TypeId() && type != kloC_Moment::TypeId()))
+      continue;
+    const dtmC_DatumRef& csys = type == kloC_Moment::TypeId()
+                                    ? keydeck::RecordCast<kloC_Moment>(*load).csys
+                                    : keydeck::RecordCast<kloC_ConcentratedForce>(*load).csys;
+    if (!csys.IsNullRef())
+      AppendCsysRegion(load->region, csys);
+  }
 }
 
 void oif_TransformBuilder::AppendCsysRegion(const rgnC_Region& region, const dtmC_DatumRef& datum) {
@@ -63,4 +78,19 @@ int oif_TransformBuilder::FirstUserOfDatum(int index) const {
 
 cow_String oif_TransformBuilder::ConstGetDatumName(const dtmC_DatumRef& datum) const {
   return "_T-" + oif_SetName::Unquote(modelInfo->GetOrientationName(datum, 0.0, ""));
+}
+
+void oif_TransformBuilder::AddInertiaReliefOrientations() {
+  const ddb_Model& database = keydeck::FacadeOf(*model).Model();
+  for (const auto& [name, load] : keydeck::FacadeOf(*model).Loads()) { // name order
+    if (load->IsSuppressed() || load->DynTypeId() != kloC_InertiaRelief::TypeId())
+      continue;
+    const dtmC_DatumRef& csys = keydeck::RecordCast<kloC_InertiaRelief>(*load).csys;
+    if (csys.IsNullRef())
+      continue;
+    const cow_String orientation = modelInfo->GetOrientationName(csys, 0.0, "");
+    if (orientationNames_.AppendUnlessMember(orientation))
+      AddAssemblyDefinition(oif_Orientation(database, csys, orientation, /*withRotationLine=*/true,
+                                            0.0, ptoC_MaterialOrientation::Axis1));
+  }
 }

@@ -25,6 +25,8 @@ protected:
 
 private:
   void AddTransforms();
+  /// The "*Orientation" of each inertia relief load's datum, once per name.
+  void AddInertiaReliefOrientations();
   /// The smallest index whose datum is the datum of `index`.
   int FirstUserOfDatum(int index) const;
   cow_String ConstGetDatumName(const dtmC_DatumRef& datum) const;
@@ -32,4 +34,5 @@ private:
   // Parallel lists: an object's region and its datum.
   cow_List<rgnC_Region> regions_;
   cow_List<dtmC_DatumRef> datums_;
+  cow_List<cow_String> orientationNames_; ///< the orientations already filed
 };

@@ -1,6 +1,7 @@
 #include "model/json/derive.h"
 
 #include "model/json/derive_boundary_conditions.h"
+#include "model/json/derive_loads.h"
 #include "model/json/derive_orientations.h"
 #include "model/json/derive_sections.h"
 #include "model/json/json_text.h"
@@ -906,6 +907,7 @@ void DeriveModel(std::string_view modelPath, ddb_Model& model, LoadErrors& error
   CheckAmplitudes(modelPath, model, errors);
   DeriveStepStates(modelPath, model, errors);
   DeriveBoundaryConditions(modelPath, model, errors);
+  DeriveLoads(modelPath, model, errors);
 }
 
 } // namespace keydeck

@@ -33,7 +33,6 @@ struct PendingFamily {
 };
 
 inline constexpr PendingFamily PendingFamilies[] = {
-    {Holder::Model, "loads", "loads"},
     {Holder::Model, "fields", "fields"},
     {Holder::Model, "predefinedFields", "predefined fields"},
     {Holder::Model, "interactions", "interactions"},

@@ -286,7 +286,6 @@ TEST(Loader, StepMessages) {
 // Each family the writer cannot write yet is refused by name where it would go.
 TEST(Loader, FamiliesNotSupportedYet) {
   const std::pair<const char*, const char*> modelKeys[] = {
-      {"loads", "loads"},
       {"fields", "fields"},
       {"predefinedFields", "predefined fields"},
       {"interactions", "interactions"},
