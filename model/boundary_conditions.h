@@ -388,7 +388,7 @@ namespace keydeck {
 
 /// A kind of the distributed family with its state.
 template <class Record, kbcC_BCTypeEnm Type, class State>
-class DistributedKind : public BCKind<Record, Type, State, kbcC_DistributedBC> {
+class DistributedBCKind : public BCKind<Record, Type, State, kbcC_DistributedBC> {
 public:
   const mdl_PropAttr<double>& Magnitude(const cow_String& step) const override {
     return this->ConstGetState(step).magnitude;
@@ -412,43 +412,43 @@ private:
 } // namespace keydeck
 
 class kbcC_PorePressureBC
-    : public keydeck::DistributedKind<kbcC_PorePressureBC, kbcC_PorePressureType,
-                                      kbcC_ScalarState> {
+    : public keydeck::DistributedBCKind<kbcC_PorePressureBC, kbcC_PorePressureType,
+                                        kbcC_ScalarState> {
 public:
   static constexpr const char* Description = "a prescribed pore pressure";
 };
 
 class kbcC_AcousticPressureBC
-    : public keydeck::DistributedKind<kbcC_AcousticPressureBC, kbcC_AcousticPressureType,
-                                      kbcC_ComplexScalarState> {
+    : public keydeck::DistributedBCKind<kbcC_AcousticPressureBC, kbcC_AcousticPressureType,
+                                        kbcC_ComplexScalarState> {
 public:
   static constexpr const char* Description = "a prescribed acoustic pressure";
 };
 
 class kbcC_FluidCavityPressureBC
-    : public keydeck::DistributedKind<kbcC_FluidCavityPressureBC, kbcC_FluidCavityPressureType,
-                                      kbcC_ScalarState> {
+    : public keydeck::DistributedBCKind<kbcC_FluidCavityPressureBC, kbcC_FluidCavityPressureType,
+                                        kbcC_ScalarState> {
 public:
   static constexpr const char* Description = "a prescribed fluid cavity pressure";
 };
 
 class kbcC_ElectricPotentialBC
-    : public keydeck::DistributedKind<kbcC_ElectricPotentialBC, kbcC_ElectricPotentialType,
-                                      kbcC_ComplexScalarState> {
+    : public keydeck::DistributedBCKind<kbcC_ElectricPotentialBC, kbcC_ElectricPotentialType,
+                                        kbcC_ComplexScalarState> {
 public:
   static constexpr const char* Description = "a prescribed electric potential";
 };
 
 class kbcC_MassConcentrationBC
-    : public keydeck::DistributedKind<kbcC_MassConcentrationBC, kbcC_MassConcentrationType,
-                                      kbcC_ScalarState> {
+    : public keydeck::DistributedBCKind<kbcC_MassConcentrationBC, kbcC_MassConcentrationType,
+                                        kbcC_ScalarState> {
 public:
   static constexpr const char* Description = "a prescribed normalized mass concentration";
 };
 
 class kbcC_HydrostaticFluidPressureBC
-    : public keydeck::DistributedKind<kbcC_HydrostaticFluidPressureBC,
-                                      kbcC_HydrostaticFluidPressureType, kbcC_ScalarState> {
+    : public keydeck::DistributedBCKind<kbcC_HydrostaticFluidPressureBC,
+                                        kbcC_HydrostaticFluidPressureType, kbcC_ScalarState> {
 public:
   static constexpr const char* Description = "a prescribed hydrostatic fluid pressure";
 };

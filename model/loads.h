@@ -444,7 +444,7 @@ public:
 
 /// A load of one value on a region, spread as `distribution` says.
 template <class Self, kloC_LoadTypeEnm Type, kloC_Load::RegionKindEnm Region>
-class DistributedKind : public LoadKind<Self, Type, kloC_MagnitudeState, Region> {
+class DistributedLoadKind : public LoadKind<Self, Type, kloC_MagnitudeState, Region> {
 public:
   template <class V> void Fields(V& v) {
     LoadKind<Self, Type, kloC_MagnitudeState, Region>::Fields(v);
@@ -621,36 +621,38 @@ public:
   bool follower = true;
 };
 
-class kloC_BodyHeatFlux : public keydeck::DistributedKind<kloC_BodyHeatFlux, kloC_BodyHeatFluxType,
-                                                          kloC_Load::ElementRegion> {
+class kloC_BodyHeatFlux
+    : public keydeck::DistributedLoadKind<kloC_BodyHeatFlux, kloC_BodyHeatFluxType,
+                                          kloC_Load::ElementRegion> {
 public:
   static constexpr const char* Description = "a heat flux per volume in an element set";
 };
 
 class kloC_BodyConcentrationFlux
-    : public keydeck::DistributedKind<kloC_BodyConcentrationFlux, kloC_BodyConcentrationFluxType,
-                                      kloC_Load::ElementRegion> {
+    : public keydeck::DistributedLoadKind<
+          kloC_BodyConcentrationFlux, kloC_BodyConcentrationFluxType, kloC_Load::ElementRegion> {
 public:
   static constexpr const char* Description = "a concentration flux per volume in an element set";
 };
 
 class kloC_SurfaceHeatFlux
-    : public keydeck::DistributedKind<kloC_SurfaceHeatFlux, kloC_SurfaceHeatFluxType,
-                                      kloC_Load::SurfaceRegion> {
+    : public keydeck::DistributedLoadKind<kloC_SurfaceHeatFlux, kloC_SurfaceHeatFluxType,
+                                          kloC_Load::SurfaceRegion> {
 public:
   static constexpr const char* Description = "a heat flux per area into a surface";
 };
 
 class kloC_SurfaceConcentrationFlux
-    : public keydeck::DistributedKind<kloC_SurfaceConcentrationFlux,
-                                      kloC_SurfaceConcentrationFluxType, kloC_Load::SurfaceRegion> {
+    : public keydeck::DistributedLoadKind<kloC_SurfaceConcentrationFlux,
+                                          kloC_SurfaceConcentrationFluxType,
+                                          kloC_Load::SurfaceRegion> {
 public:
   static constexpr const char* Description = "a concentration flux per area into a surface";
 };
 
 class kloC_SurfacePoreFluid
-    : public keydeck::DistributedKind<kloC_SurfacePoreFluid, kloC_SurfacePoreFluidType,
-                                      kloC_Load::SurfaceRegion> {
+    : public keydeck::DistributedLoadKind<kloC_SurfacePoreFluid, kloC_SurfacePoreFluidType,
+                                          kloC_Load::SurfaceRegion> {
 public:
   static constexpr const char* Description = "a pore fluid flow per area into a surface";
 };

@@ -18,13 +18,6 @@ public:
     InitializeMembers(steps, NumKeys);
     PopulateMembers<BoltLoad>(bcs, loads);
   }
-  /// The same for a model whose loads the builder does not read yet: the
-  /// boundary conditions alone.
-  template <class BC>
-  void Configure(const kprC_PropagatingContainer<BC>& bcs, const kprC_StepContainer& steps) {
-    InitializeMembers(steps, NumKeys);
-    FlagConditions(bcs);
-  }
   int Key(unsigned typeId) const override;
 
 private:

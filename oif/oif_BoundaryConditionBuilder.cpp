@@ -2,7 +2,9 @@
 
 #include "base/nex_Exception.h"
 #include "model/boundary_conditions.h"
+#include "model/loads.h"
 #include "oif/oif_Boundary.h"
+#include "oif/oif_BoundaryForBoltLoad.h"
 #include "oif/oif_Comment.h"
 #include "oif/oif_ConnectorMotion.h"
 #include "oif/oif_Elset.h"
@@ -59,17 +61,16 @@ void oif_BoundaryConditionBuilder::Build() {
   for (int i = 0; i < steps.Size(); ++i) {
     const cow_String& step = steps.NameAt(i);
     CreateAllBCs(step);
-    // The bolt loads that the solver takes as boundary conditions join here
-    // with the loads, and the load cases they serve are left out below.
-    if (i > 0)
-      CreateEmptyBCs(step, cow_List<cow_String>());
+    if (AnalysisStepOf(steps, step) != nullptr)
+      CreateEmptyBCs(step, CreateBoltLoadBCs(step));
   }
   CreateSubmodelKwds();
 }
 
 void oif_BoundaryConditionBuilder::ConfigureOpStatus() {
   const kprC_StepContainer& steps = model->Steps();
-  opStatus_.Configure(keydeck::FacadeOf(*model).BCs(), steps);
+  opStatus_.Configure<kloC_BoltLoad>(keydeck::FacadeOf(*model).BCs(),
+                                     keydeck::FacadeOf(*model).Loads(), steps);
   // A buckling step restarts every boundary condition.
   for (int i = 1; i < steps.Size(); ++i) {
     const kprC_AnalysisStep* step = AnalysisStepOf(steps, steps.NameAt(i));
@@ -129,7 +130,8 @@ void oif_BoundaryConditionBuilder::CreateBCCard(const kbcC_BC& bc, const cow_Str
                                                 const cow_String& step, const cow_String& loadCase,
                                                 double scale, bool opMod) {
   const cow_String displayName = oif_Boundary::FixBCNameHack(name);
-  const oif_Comment comment(Comment(displayName, bc.DynTypeId(), loadCase, scale));
+  const oif_Comment comment(
+      Comment(displayName, kbcC_BCTypeLabelMap::Label(bc.DynTypeId()), loadCase, scale));
   if (kbcC_ConnectorBC::IsKindOf(bc.DynTypeId())) {
     // Connector conditions act on the element set named after them.
     const auto& connector = keydeck::RecordCast<kbcC_ConnectorBC>(bc);
@@ -154,6 +156,59 @@ void oif_BoundaryConditionBuilder::CreateBCCard(const kbcC_BC& bc, const cow_Str
     return submodels_.Append(step, displayName, card);
   AddStepDefinition(step, comment, loadCase);
   AddStepDefinition(step, card, loadCase);
+}
+
+cow_List<cow_String> oif_BoundaryConditionBuilder::CreateBoltLoadBCs(const cow_String& step) {
+  cow_List<cow_String> served;
+  const kprC_AnalysisStep* analysis = AnalysisStepOf(model->Steps(), step);
+  const bool hasLoadCases = analysis != nullptr && analysis->loadCases.Size() > 0;
+  for (const auto& [name, load] : keydeck::FacadeOf(*model).Loads()) {
+    if (load->IsSuppressed() || load->DynTypeId() != kloC_BoltLoad::TypeId() ||
+        load->Status(step) == PropBuiltIn)
+      continue;
+    if (!hasLoadCases) {
+      BoltLoadBCDetails(load, name, step, cow_String(), 1.0);
+      served.Append(cow_String());
+      continue;
+    }
+    for (const cow_String& loadCase : analysis->loadCases.Keys()) {
+      bool found = false;
+      const double scale = load->LoadCaseScale(step, loadCase, found);
+      if (found && BoltLoadBCDetails(load, name, step, loadCase, scale))
+        served.Append(loadCase);
+    }
+  }
+  return served;
+}
+
+bool oif_BoundaryConditionBuilder::BoltLoadBCDetails(const keydeck::LoadHandle& handle,
+                                                     const cow_String& name, const cow_String& step,
+                                                     const cow_String& loadCase, double scale) {
+  const auto& load = keydeck::RecordCast<kloC_BoltLoad>(*handle);
+  const bool noLoadCase = loadCase.Empty();
+  const bool opNew = opStatus_.OpNew(kloC_BoltLoad::TypeId(), step);
+  const mdl_PropagationStatusEnm status = load.Status(step);
+  const auto& method = load.ConstGetState(step).method;
+  if (status == PropPropagated && noLoadCase && !opNew)
+    return false;
+  const bool onLength = method.ConstGet() != kloC_ApplyForce;
+  const bool inForce = status == PropCreated || status == PropPropagated || status == PropModified;
+  // Deactivated, or turned back into a force: the card that ends the
+  // condition.
+  const bool ends =
+      status == PropDeactivated || (status == PropModified && method.IsModified() && !onLength);
+  if (!(inForce && onLength) && !ends)
+    return false;
+  if (noLoadCase)
+    AddStepDefinition(step, header_.StepHeader(step));
+  const cow_String setName =
+      oif_SetName(load.region, *modelInfo).UniqueSetName(oif_SetName::AssemblyScope);
+  AddStepDefinition(
+      step, oif_Comment(Comment(name, kloC_LoadTypeLabelMap(load.DynTypeId()), loadCase, scale)),
+      loadCase);
+  AddStepDefinition(
+      step, oif_BoundaryForBoltLoad(handle, step, setName, noLoadCase && !opNew, scale), loadCase);
+  return true;
 }
 
 void oif_BoundaryConditionBuilder::CreateEmptyBCs(const cow_String& step,
@@ -198,9 +253,9 @@ void oif_BoundaryConditionBuilder::CreateSubmodelKwds() {
       AddStepDefinition(steps.NameAt(i), *card);
 }
 
-cow_String oif_BoundaryConditionBuilder::Comment(const cow_String& name, unsigned typeId,
+cow_String oif_BoundaryConditionBuilder::Comment(const cow_String& name, const cow_String& label,
                                                  const cow_String& loadCase, double scale) {
-  cow_String text = "Name: " + name + " Type: " + kbcC_BCTypeLabelMap::Label(typeId);
+  cow_String text = "Name: " + name + " Type: " + label;
   if (!loadCase.Empty())
     text = text + "   Scale factor: " + cow_String(scale);
   return text;

@@ -5,6 +5,7 @@
 #include "oif/oif_BCOpStatus.h"
 #include "oif/oif_BlockHeader.h"
 #include "oif/oif_BoundarySubmodelList.h"
+#include "oif/oif_LoadCards.h"
 #include "qkw/qkw_BuilderComponent.h"
 
 class kbcC_BC;
@@ -30,15 +31,21 @@ private:
                     const cow_String& loadCase, double scale);
   void CreateBCCard(const kbcC_BC& bc, const cow_String& name, const cow_String& step,
                     const cow_String& loadCase, double scale, bool opMod);
+  /// The "*Boundary" cards of the bolt loads that act on the bolt's length
+  /// in `step`; gives the load cases that such a card serves (an empty key
+  /// for a step without load cases).
+  cow_List<cow_String> CreateBoltLoadBCs(const cow_String& step);
+  bool BoltLoadBCDetails(const keydeck::LoadHandle& load, const cow_String& name,
+                         const cow_String& step, const cow_String& loadCase, double scale);
   /// In each load case of `step` not in `served` that has no boundary
   /// conditions (and takes none from the base state): "*Boundary, op=NEW",
   /// which wipes those inherited from the step.
   void CreateEmptyBCs(const cow_String& step, const cow_List<cow_String>& served);
   void CreateSubmodelKwds();
-  /// "Name: ", the name, " Type: " and the kind's label; in a load case
-  /// also "   Scale factor: " and the scale.
-  static cow_String Comment(const cow_String& name, unsigned typeId, const cow_String& loadCase,
-                            double scale);
+  /// "Name: ", the name, " Type: " and `label`; in a load case also
+  /// "   Scale factor: " and the scale.
+  static cow_String Comment(const cow_String& name, const cow_String& label,
+                            const cow_String& loadCase, double scale);
 
   oif_BlockHeader header_;
   oif_BCOpStatus opStatus_;

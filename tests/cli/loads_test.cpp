@@ -100,7 +100,7 @@ TEST_F(LoadsCommand, WritesALoadOfTheModel) {
             0)
       << err;
   const std::string deck = keydeck::test::ReadFile((folder_ / "model.inp").string());
-  EXPECT_NE(deck.find("*Load Case, name=LC\n** Name: L   Type: Concentrated heat flux   Scale "
+  EXPECT_NE(deck.find("*Load Case, name=LC\n*Boundary, op=NEW\n** Name: L   Type: Concentrated heat flux   Scale "
                       "factor: 1\n*Cflux\nP-1.Tip, 12, 2.\n*End Load Case\n"),
             std::string::npos)
       << deck;

@@ -132,9 +132,11 @@ TEST(LoadBuilder, LoadCaseHoldsItsOwnLoadsWithTheirScale) {
                          "Other": {"type": "pressure", "region": "B-1.Top", "createdIn": "S1",
                                    "magnitude": 1}})",
                        steps),
-            "-- S1\n** LOAD CASES\n*Load Case, name=LC-A\n"
+            // A load case without boundary conditions of its own wipes those
+            // of the step.
+            "-- S1\n** LOAD CASES\n*Load Case, name=LC-A\n*Boundary, op=NEW\n"
             "** Name: F   Type: Concentrated force   Scale factor: 2.5\n*Cload\nLoad, 1, 10.\n"
-            "*End Load Case\n*Load Case, name=LC-B\n"
+            "*End Load Case\n*Load Case, name=LC-B\n*Boundary, op=NEW\n"
             "** Name: F   Type: Concentrated force   Scale factor: -1\n*Cload\nLoad, 1, -4.\n"
             "*End Load Case\n");
 }
@@ -145,10 +147,17 @@ TEST(LoadBuilder, BoltLoadIsAForceOnlyByTheFirstMethod) {
                                    "steps": {"S2": {"method": "fixLength"}}},
                          "Length": {"type": "boltLoad", "region": "B-1.Tip", "createdIn": "S1",
                                     "method": "adjustLength", "magnitude": 0.5}})"),
-            // S2 turns the force into a length condition: its force card
-            // restarts empty, and the boundary condition takes over.
-            "-- S1\n** LOADS\n** Name: Force   Type: Bolt load\n*Cload\nB-1.Edge, 1, 1000.\n"
-            "-- S2\n** LOADS\n** Name: Force   Type: Bolt load\n*Cload, op=NEW\n-- S3\n");
+            // The length condition is a "*Boundary" card. S2 turns the force
+            // into a length condition: its force card restarts empty, the
+            // boundary condition takes over, and the change of method restarts
+            // the boundary class, so the other length condition is written again.
+            "-- S1\n** BOUNDARY CONDITIONS\n** Name: Length Type: Bolt load\n*Boundary\n"
+            "B-1.Tip, 1, 1, 0.5\n"
+            "** LOADS\n** Name: Force   Type: Bolt load\n*Cload\nB-1.Edge, 1, 1000.\n"
+            "-- S2\n** BOUNDARY CONDITIONS\n** Name: Force Type: Bolt load\n"
+            "*Boundary, op=NEW, fixed\nB-1.Edge, 1, 1\n"
+            "** Name: Length Type: Bolt load\n*Boundary, op=NEW\nB-1.Tip, 1, 1, 0.5\n"
+            "** LOADS\n** Name: Force   Type: Bolt load\n*Cload, op=NEW\n-- S3\n");
 }
 
 TEST(LoadCards, BoundaryForBoltLoadByMethod) {
