@@ -8,6 +8,7 @@
 #include "model/materials.h"
 #include "model/mesh.h"
 #include "model/orientations.h"
+#include "model/output.h"
 #include "model/records.h"
 #include "model/sections.h"
 #include "model/steps.h"
@@ -218,6 +219,10 @@ public:
     v({"amplitudes", "the amplitudes by name: how a load or condition varies in time"},
       amplitudes_, mdl_MapString2ObjCow<kamC_Amplitude>());
     v({"steps", "the steps in order, the initial step first"}, steps_.steps, kprC_StepContainer());
+    v({"fieldOutputRequests", "the field output requests by name"}, fieldOutputs_,
+      kprC_PropagatingContainer<korC_FieldOutput>());
+    v({"historyOutputRequests", "the history output requests by name"}, historyOutputs_,
+      kprC_PropagatingContainer<korC_HistoryOutput>());
     v({"topLevelSolverInput", "raw solver text written verbatim at the top of the deck"},
       topLevelSolverInput_, cow_String());
     v({"solverInput", "raw solver text written after the assembly, with the model data"},
@@ -246,6 +251,8 @@ public:
   mdl_MapString2ObjCow<kseC_Section> sections_; ///< none until the section families load
   mdl_MapString2ObjCow<kamC_Amplitude> amplitudes_;
   ddb_DdbStepContainer steps_;
+  kprC_PropagatingContainer<korC_FieldOutput> fieldOutputs_;
+  kprC_PropagatingContainer<korC_HistoryOutput> historyOutputs_;
   /// Derived after loading: every datum under its id minus 1. Each part's
   /// datums in its frame, the assembly's, then each instance's in the frame
   /// of the assembly.

@@ -35,7 +35,7 @@ std::FILE* OpenNewFile(const char* name) {
 
 oif_Builder::oif_Builder(oif_ModelInfo& info)
     : jobKeywords_(info), instance_(info), material_(info), part_(info), region_(info), step_(info),
-      amplitude_(info), transform_(info), final_(info), v6Format_(info.V6Format()),
+      amplitude_(info), transform_(info), output_(info), final_(info), v6Format_(info.V6Format()),
       model_(&keydeck::FacadeOf(info.Model())) {}
 
 bool oif_Builder::WriteInputFile(const cow_String& fileName, keydeck::DeckPhaseTimes* times) {
@@ -70,6 +70,7 @@ void oif_Builder::BuildAll() {
   region_.Build();
   amplitude_.Build();
   transform_.Build();
+  output_.Build();
   final_.Build();
 }
 
@@ -77,7 +78,8 @@ oif_Builder::BuilderList oif_Builder::WritingList() const {
   // The writing list fixes the order of cards inside every block of the deck.
   BuilderList builders;
   for (const qkw_BuilderComponent* builder : std::initializer_list<const qkw_BuilderComponent*>{
-           &part_, &instance_, &step_, &region_, &amplitude_, &material_, &transform_, &final_})
+           &part_, &instance_, &step_, &region_, &amplitude_, &material_, &transform_, &output_,
+           &final_})
     builders.Append(cow_ArrayCOW<qkw_BuilderComponent>(*builder));
   return builders;
 }

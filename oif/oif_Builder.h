@@ -8,6 +8,7 @@
 #include "oif/oif_InstanceBuilder.h"
 #include "oif/oif_JobKeywordsBuilder.h"
 #include "oif/oif_MaterialBuilder.h"
+#include "oif/oif_OutputRequestBuilder.h"
 #include "oif/oif_PartBuilder.h"
 #include "oif/oif_RegionBuilder.h"
 #include "oif/oif_StepBuilder.h"
@@ -73,6 +74,7 @@ private:
   oif_StepBuilder step_;
   oif_AmplitudeBuilder amplitude_;
   oif_TransformBuilder transform_;
+  oif_OutputRequestBuilder output_;
   oif_FinalBuilder final_;
   bool v6Format_;
   const oif_Model* model_;

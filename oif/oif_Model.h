@@ -19,6 +19,13 @@ public:
   const mdl_MapString2ObjCow<kseC_Section>& Sections() const { return model_.sections(); }
   /// The amplitudes, in ascending order of name.
   const mdl_MapString2ObjCow<kamC_Amplitude>& Amplitudes() const { return model_.amplitudes(); }
+  /// The field and the history output requests, in ascending order of name.
+  const kprC_PropagatingContainer<korC_FieldOutput>& FieldOutputs() const {
+    return model_.fieldOutputs_;
+  }
+  const kprC_PropagatingContainer<korC_HistoryOutput>& HistoryOutputs() const {
+    return model_.historyOutputs_;
+  }
 
   const kprC_StepContainer& Steps() const override { return model_.step().container(); }
   double AbsoluteZero() const override { return model_.absoluteZero(); }

@@ -1,6 +1,7 @@
 #include "model/json/derive.h"
 
 #include "model/json/derive_orientations.h"
+#include "model/json/derive_output.h"
 #include "model/json/json_text.h"
 #include "model/json/region_names.h"
 #include "model/propagation.h"
@@ -812,6 +813,7 @@ void DeriveModel(std::string_view modelPath, ddb_Model& model, LoadErrors& error
   DeriveStepRegions(modelPath, model, errors);
   CheckAmplitudes(modelPath, model, errors);
   DeriveStepStates(modelPath, model, errors);
+  DeriveOutputRequests(modelPath, model, errors);
 }
 
 } // namespace keydeck

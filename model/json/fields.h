@@ -40,6 +40,8 @@ template <class Base> struct MapEntryClass;
 template <> struct MapEntryClass<ddb_BaseInstance> { using Type = ddb_PartInstance; };
 template <> struct MapEntryClass<klcC_LoadCase> { using Type = klcC_LoadCase; };
 template <> struct MapEntryClass<kmaC_Material> { using Type = kmaC_Material; };
+template <> struct MapEntryClass<korC_FieldOutput> { using Type = korC_FieldOutput; };
+template <> struct MapEntryClass<korC_HistoryOutput> { using Type = korC_HistoryOutput; };
 
 /// A step as the file gives it: its name, then the step's own fields. The
 /// model keeps the name as the step's key.

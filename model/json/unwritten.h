@@ -41,8 +41,6 @@ inline constexpr PendingFamily PendingFamilies[] = {
     {Holder::Model, "interactions", "interactions"},
     {Holder::Model, "interactionProperties", "interaction properties"},
     {Holder::Model, "constraints", "constraints"},
-    {Holder::Model, "fieldOutputRequests", "field output requests"},
-    {Holder::Model, "historyOutputRequests", "history output requests"},
     {Holder::Model, "connectorSections", "connector sections"},
     {Holder::Part, "sectionAssignments", "section assignments"},
     {Holder::Assembly, "nodes", "assembly nodes"},
