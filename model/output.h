@@ -118,6 +118,8 @@ struct korC_OutputState {
 
   /// Listed, preselect or all, by the list in force.
   korC_VariablesTypeEnm VariablesType() const;
+  /// True for "PRESELECT" and "ALL", which name sets of variables.
+  static bool IsSymbol(const cow_String& name) { return name == "PRESELECT" || name == "ALL"; }
 };
 
 /// What field and history requests share: the region they cover and how

@@ -99,7 +99,7 @@ private:
       return;
     for (int i = 0; i < names.Size(); ++i) {
       const cow_String& name = names.ConstGet(i);
-      if (name == "PRESELECT" || name == "ALL")
+      if (korC_OutputState::IsSymbol(name))
         errors_.Add(path + "/" + std::to_string(i), QuotedJson(name.View()) + " stands alone");
     }
   }
@@ -112,8 +112,9 @@ private:
     const auto& step = RecordCast<kprC_AnalysisStep>(steps_.StepAt(stepIndex));
     const std::string listPath = PathOfList(path, request, stepIndex);
     for (const DeckName& name : state.variables.ConstGet()) {
-      if (korC_OdbRequestTable::IsKnown(name.View(), step.procedure, isField_))
-        continue;
+      if (korC_OutputState::IsSymbol(name) ||
+          korC_OdbRequestTable::IsKnown(name.View(), step.procedure, isField_))
+        continue; // a symbol among names is reported by itself
       std::string message = QuotedJson(name.View()) + " is not a " +
                             (isField_ ? "field" : "history") + " output variable of the " +
                             ProcedureWord(step) + " procedure of step " +

@@ -180,11 +180,11 @@ TEST(OutputRequests, LoadsWithRegionsAndSteps) {
 }
 
 TEST(OutputRequests, LoaderMessages) {
-  const std::string steps =
-      R"("steps": [{"name": "Initial"}, {"name": "Load", "procedure": "static"},
-      {"name": "Heat", "procedure": "heatTransfer", "timePeriod": 1, "deltmx": 5}])";
-  const auto model = [&](const std::string& requests) {
-    return InModel("{" + steps + ", " + requests + "}");
+  // A static step, and a heat transfer step after it for the cases that need one.
+  const auto model = [](const std::string& requests, bool heat = false) {
+    return InModel(R"({"steps": [{"name": "Initial"}, {"name": "Load", "procedure": "static"})" +
+                   std::string(heat ? R"(, {"name": "Heat", "procedure": "heatTransfer"})" : "") +
+                   "], " + requests + "}");
   };
   const std::string field = "models/M/fieldOutputRequests/F";
   const std::string history = "models/M/historyOutputRequests/H";
@@ -198,12 +198,14 @@ TEST(OutputRequests, LoaderMessages) {
        {field + "/variables: \"ALLIE\" is not a field output variable of the static procedure "
                 "of step \"Load\""}},
       {"inherited into a procedure that lacks it",
-       model(R"("historyOutputRequests": {"H": {"createdIn": "Load", "variables": ["ALLIE"]}})"),
+       model(R"("historyOutputRequests": {"H": {"createdIn": "Load", "variables": ["ALLIE"]}})",
+             true),
        {history + "/variables: \"ALLIE\" is not a history output variable of the heatTransfer "
                   "procedure of step \"Heat\""}},
       {"changed in a later step",
        model(R"("fieldOutputRequests": {"F": {"createdIn": "Load",
-                "steps": {"Heat": {"variables": ["NT", "S11"]}}}})"),
+                "steps": {"Heat": {"variables": ["NT", "S11"]}}}})",
+             true),
        {field + "/steps/Heat/variables: \"S11\" is not a field output variable of the "
                 "heatTransfer procedure of step \"Heat\""}},
       {"symbols stand alone",
