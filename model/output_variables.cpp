@@ -124,6 +124,8 @@ constexpr Row Rows[] = {
     {"CF", korC_NodeKind, korC_AtNodes, Stress, Implicit, Both, FieldImplicit,
      "CF1 CF2 CF3 CM1 CM2 CM3"},
     {"COORD", korC_NodeKind, korC_AtNodes, Stress, 0, Both, None, "COOR1 COOR2 COOR3"},
+    {"TF", korC_NodeKind, korC_AtNodes, Stress, 0, Both, None, "TF1 TF2 TF3 TM1 TM2 TM3"},
+    {"VF", korC_NodeKind, korC_AtNodes, Stress, 0, Both, None, "VF1 VF2 VF3 VM1 VM2 VM3"},
     {"NT", korC_NodeKind, korC_AtNodes, Heat, 0, Both, FieldBoth, "NT11"},
     {"RFL", korC_NodeKind, korC_AtNodes, Heat, 0, Both, FieldBoth, "RFL11"},
     {"EPOT", korC_NodeKind, korC_AtNodes, Electric, 0, Both, FieldImplicit, ""},
