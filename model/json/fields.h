@@ -3,6 +3,7 @@
 #include "base/cow_Btree.h"
 #include "base/cow_String.h"
 #include "model/database.h"
+#include "model/json/unwritten.h"
 #include "model/propagation.h"
 #include "model/records.h"
 #include "model/steps.h"
@@ -55,6 +56,8 @@ template <class Step> struct NamedStep {
     step.Fields(v);
   }
 };
+
+template <class Step> inline constexpr Holder HolderOf<NamedStep<Step>> = Holder::Step;
 
 /// The word that opens every model file. `Unknown` stands for a file that has
 /// not said it yet; it has no word.
