@@ -229,7 +229,6 @@ public:
 class korC_OdbChannel {
 public:
   explicit korC_OdbChannel(bool isField) : type_(isField ? 1 : 2) {}
-  int Type() const { return type_; }
   bool IsField() const { return type_ == 1; }
 
   cow_List<korC_OdbRequest> requests;
