@@ -149,7 +149,7 @@ bool kprC_IsFrequencyBuckle(unsigned procedure) { return IsEigen(procedure); }
 
 bool kprC_ModesIsAllowed(unsigned procedure) { return IsEigen(procedure); }
 
-bool kprC_TimeMarksIsAllowed(unsigned procedure, bool) {
+bool kprC_TimeMarksIsAllowed(unsigned procedure) {
   // Steps without a step time: an anneal, the Riks method's arc length, and
   // the linear perturbation procedures.
   return procedure != kprC_Anneal && procedure != kprC_StaticRiks && !IsEigen(procedure) &&
@@ -158,14 +158,14 @@ bool kprC_TimeMarksIsAllowed(unsigned procedure, bool) {
          procedure != kprC_RandomResponse && procedure != kprC_ResponseSpectrum;
 }
 
-bool korC_FrequencyIsAllowed(korC_FrequencyTypeEnm kind, unsigned procedure, bool isField) {
+bool korC_FrequencyIsAllowed(korC_FrequencyTypeEnm kind, unsigned procedure) {
   switch (kind) {
   case korC_EveryIncrements:
     return true;
   case korC_NumberIntervals:
   case korC_EveryTimeInterval:
   case korC_AtTimePoints:
-    return kprC_TimeMarksIsAllowed(procedure, isField);
+    return kprC_TimeMarksIsAllowed(procedure);
   case korC_ModeList:
     return kprC_ModesIsAllowed(procedure);
   }

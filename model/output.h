@@ -192,9 +192,6 @@ public:
 /// other, and the deck does not depend on the order of the records' names.
 class korC_OdbRequest {
 public:
-  /// The frequency kinds of a request: the deck's numbers.
-  using TypeEnm = korC_FrequencyTypeEnm;
-
   friend bool operator==(const korC_OdbRequest& a, const korC_OdbRequest& b);
   /// The order of `Sort`, described above.
   friend bool operator<(const korC_OdbRequest& a, const korC_OdbRequest& b);
@@ -252,9 +249,9 @@ bool kprC_IsFrequencyBuckle(unsigned procedure);
 bool kprC_ModesIsAllowed(unsigned procedure);
 /// True for a procedure with a step time, where intervals, time intervals,
 /// time points and time marks mean something.
-bool kprC_TimeMarksIsAllowed(unsigned procedure, bool isField);
+bool kprC_TimeMarksIsAllowed(unsigned procedure);
 /// True when a request of the procedure may use that frequency kind.
-bool korC_FrequencyIsAllowed(korC_FrequencyTypeEnm kind, unsigned procedure, bool isField);
+bool korC_FrequencyIsAllowed(korC_FrequencyTypeEnm kind, unsigned procedure);
 /// The frequency kind the solver assumes when a request names none: intervals
 /// for the explicit solver, modes for field output of an eigenvalue
 /// procedure, increments otherwise.

@@ -83,8 +83,7 @@ void oif_Output::WriteTimeMarks(utl_Stream& s) const {
   if (frequencyType_ != korC_NumberIntervals && frequencyType_ != korC_EveryTimeInterval &&
       frequencyType_ != korC_AtTimePoints)
     return;
-  if (timeMarks_ == korC_DefaultTimeMarks(procedure_) ||
-      !kprC_TimeMarksIsAllowed(procedure_, isField_))
+  if (timeMarks_ == korC_DefaultTimeMarks(procedure_) || !kprC_TimeMarksIsAllowed(procedure_))
     return;
   WriteParameter(s, "time marks=", timeMarks_ ? "YES" : "NO");
 }

@@ -64,7 +64,7 @@ void SetFrequency(korC_OdbRequest& request, const korC_OutputState& state, bool 
                   unsigned procedure) {
   const korC_OutputFrequency& given = state.frequency.ConstGet();
   request.timeMarks = given.timeMarks.value_or(korC_DefaultTimeMarks(procedure));
-  if (state.frequency.IsActive() && korC_FrequencyIsAllowed(given.Kind(), procedure, isField)) {
+  if (state.frequency.IsActive() && korC_FrequencyIsAllowed(given.Kind(), procedure)) {
     request.frequencyType = given.Kind();
     request.frequency = given.every == NotGivenInt ? 0 : given.every;
     request.numberInterval = given.intervals == NotGivenInt ? 0 : given.intervals;

@@ -55,7 +55,7 @@ private:
         steps_.ConstGet(stepName).DynTypeId() == kprC_InitialStep::TypeId())
       return; // the propagation rule reports such a step
     const auto& step = RecordCast<kprC_AnalysisStep>(steps_.ConstGet(stepName));
-    if (!korC_FrequencyIsAllowed(frequency.Kind(), step.procedure, isField_))
+    if (!korC_FrequencyIsAllowed(frequency.Kind(), step.procedure))
       errors_.Add(path, "the " + ProcedureWord(step) + " procedure of step " +
                             QuotedJson(stepName.View()) + " cannot write output at " +
                             KindWords(frequency.Kind()));
