@@ -58,7 +58,7 @@ struct korC_OdbRequestSpec {
 /// channel, "ALL" for every variable of it.
 class korC_OdbRequestTable {
 public:
-  /// The spec of a parent variable that exists in `procedure`; kind node and
+  /// What the table says of a parent variable of `procedure`; kind node and
   /// position nodes for a name that is none.
   static korC_OdbRequestSpec Request(std::string_view name, unsigned procedure);
   /// True for a parent variable that exists in `procedure`.

@@ -15,7 +15,7 @@ namespace keydeck {
 /// The names a sub-card prints, in first-seen order without doubles. Each
 /// variable of the request that the procedure knows (a component stands for
 /// its parent) is kept when `keep(spec, wasComponent)` says so; it prints as
-/// the spec's print name.
+/// the print name the table gives it.
 template <class Keep>
 cow_List<cow_String> SubCardVariables(const korC_OdbRequest& request, unsigned procedure,
                                       Keep&& keep) {
