@@ -10,6 +10,7 @@
 #include "model/materials.h"
 #include "model/mesh.h"
 #include "model/orientations.h"
+#include "model/output.h"
 #include "model/profiles.h"
 #include "model/records.h"
 #include "model/sections.h"
@@ -240,6 +241,10 @@ public:
       boundaryConditions_, kprC_PropagatingContainer<kbcC_BC>());
     v({"loads", "the loads by name, each with its state per step"}, loads_,
       kprC_PropagatingContainer<kloC_Load>());
+    v({"fieldOutputRequests", "the field output requests by name"}, fieldOutputs_,
+      kprC_PropagatingContainer<korC_FieldOutput>());
+    v({"historyOutputRequests", "the history output requests by name"}, historyOutputs_,
+      kprC_PropagatingContainer<korC_HistoryOutput>());
     v({"topLevelSolverInput", "raw solver text written verbatim at the top of the deck"},
       topLevelSolverInput_, cow_String());
     v({"solverInput", "raw solver text written after the assembly, with the model data"},
@@ -271,6 +276,8 @@ public:
   kprC_PropagatingContainer<kbcC_BC> boundaryConditions_;
   ddb_DdbStepContainer steps_;
   kprC_PropagatingContainer<kloC_Load> loads_;
+  kprC_PropagatingContainer<korC_FieldOutput> fieldOutputs_;
+  kprC_PropagatingContainer<korC_HistoryOutput> historyOutputs_;
   /// Derived after loading: every datum under its id minus 1. Each part's
   /// datums in its frame, the assembly's, then each instance's in the frame
   /// of the assembly.

@@ -106,6 +106,8 @@ inline constexpr unsigned SpectrumAmplitude = 0x244000A;
 inline constexpr unsigned SmoothStepAmplitude = 0x244000B;
 inline constexpr unsigned BubbleAmplitude = 0x244000C;
 inline constexpr unsigned UserAmplitude = 0x244000D;
+inline constexpr unsigned FieldOutput = 0x2900001;
+inline constexpr unsigned HistoryOutput = 0x2900002;
 } // namespace TypeIds
 
 /// A problem inside one record that only the record's own checks find:

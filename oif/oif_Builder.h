@@ -10,6 +10,7 @@
 #include "oif/oif_JobKeywordsBuilder.h"
 #include "oif/oif_LoadBuilder.h"
 #include "oif/oif_MaterialBuilder.h"
+#include "oif/oif_OutputRequestBuilder.h"
 #include "oif/oif_PartAttributesBuilder.h"
 #include "oif/oif_PartBuilder.h"
 #include "oif/oif_RegionBuilder.h"
@@ -79,6 +80,7 @@ private:
   oif_TransformBuilder transform_;
   oif_BoundaryConditionBuilder boundaryCondition_;
   oif_LoadBuilder load_;
+  oif_OutputRequestBuilder output_;
   oif_FinalBuilder final_;
   bool v6Format_;
   const oif_Model* model_;

@@ -24,6 +24,13 @@ public:
   const kprC_PropagatingContainer<kbcC_BC>& BCs() const { return model_.boundaryConditions(); }
   /// The loads, in ascending order of name.
   const kprC_PropagatingContainer<kloC_Load>& Loads() const { return model_.loads(); }
+  /// The field and the history output requests, in ascending order of name.
+  const kprC_PropagatingContainer<korC_FieldOutput>& FieldOutputs() const {
+    return model_.fieldOutputs_;
+  }
+  const kprC_PropagatingContainer<korC_HistoryOutput>& HistoryOutputs() const {
+    return model_.historyOutputs_;
+  }
 
   const kprC_StepContainer& Steps() const override { return model_.step().container(); }
   double AbsoluteZero() const override { return model_.absoluteZero(); }

@@ -4,6 +4,7 @@
 #include "model/json/derive_loads.h"
 #include "model/json/derive_orientations.h"
 #include "model/json/derive_sections.h"
+#include "model/json/derive_output.h"
 #include "model/json/json_text.h"
 #include "model/json/large_lists.h"
 #include "model/json/region_names.h"
@@ -908,6 +909,7 @@ void DeriveModel(std::string_view modelPath, ddb_Model& model, LoadErrors& error
   DeriveStepStates(modelPath, model, errors);
   DeriveBoundaryConditions(modelPath, model, errors);
   DeriveLoads(modelPath, model, errors);
+  DeriveOutputRequests(modelPath, model, errors);
 }
 
 } // namespace keydeck

@@ -43,6 +43,7 @@ namespace keydeck {
 ///   `kprC_PropagatingRecord` among the model's fields): its status and
 ///   state in every step, by the propagation rule; a fault of its steps is
 ///   reported under the record's path.
+/// - The output requests: `DeriveOutputRequests`.
 void DeriveModel(std::string_view modelPath, ddb_Model& model, LoadErrors& errors);
 
 } // namespace keydeck

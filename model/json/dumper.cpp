@@ -66,6 +66,13 @@ public:
     out_.CloseArray();
   }
 
+  void Write(const cow_List<DeckName>& names) {
+    out_.OpenArray(/*oneLine=*/true);
+    for (const DeckName& name : names)
+      out_.String(name.View());
+    out_.CloseArray();
+  }
+
   void Write(const uti_CoordCont3D& points) {
     out_.OpenArray(/*oneLine=*/false);
     for (const uti_Coord3D& point : points) {

@@ -3,6 +3,7 @@
 #include "base/cow_Btree.h"
 #include "base/cow_String.h"
 #include "model/database.h"
+#include "model/json/unwritten.h"
 #include "model/propagation.h"
 #include "model/records.h"
 #include "model/steps.h"
@@ -40,6 +41,8 @@ template <class Base> struct MapEntryClass;
 template <> struct MapEntryClass<ddb_BaseInstance> { using Type = ddb_PartInstance; };
 template <> struct MapEntryClass<klcC_LoadCase> { using Type = klcC_LoadCase; };
 template <> struct MapEntryClass<kmaC_Material> { using Type = kmaC_Material; };
+template <> struct MapEntryClass<korC_FieldOutput> { using Type = korC_FieldOutput; };
+template <> struct MapEntryClass<korC_HistoryOutput> { using Type = korC_HistoryOutput; };
 
 /// A step as the file gives it: its name, then the step's own fields. The
 /// model keeps the name as the step's key.
@@ -53,6 +56,8 @@ template <class Step> struct NamedStep {
     step.Fields(v);
   }
 };
+
+template <class Step> inline constexpr Holder HolderOf<NamedStep<Step>> = Holder::Step;
 
 /// The word that opens every model file. `Unknown` stands for a file that has
 /// not said it yet; it has no word.

@@ -474,6 +474,7 @@ private:
   void Read(od::value value, FileVersion& out);
   void Read(od::value value, cow_List<int>& out);
   void Read(od::value value, cow_List<double>& out);
+  void Read(od::value value, cow_List<DeckName>& out);
   void Read(od::value value, uti_CoordCont3D& out);
   /// What the messages of `ReadRows` call a row that is empty or uneven.
   struct RowWords {
@@ -952,6 +953,18 @@ void Reader::Read(od::value value, cow_List<double>& out) {
     if (const simdjson::error_code error = item.get_double().get(number))
       BadReal(item, error, index);
     out.Append(number);
+  });
+}
+
+void Reader::Read(od::value value, cow_List<DeckName>& out) {
+  od::array array;
+  if (!GetArray(value, array))
+    return;
+  ForEachItem(array, [&](od::value item, std::size_t index) {
+    PathScope scope(*this, index);
+    DeckName name;
+    Read(item, name);
+    out.Append(std::move(name));
   });
 }
 

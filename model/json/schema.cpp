@@ -69,6 +69,7 @@ public:
   }
   void Body(const cow_List<int>&) { ArrayOf(0, /*minItems=*/-1, /*maxItems=*/-1); }
   void Body(const cow_List<double>&) { ArrayOf(0.0, /*minItems=*/-1, /*maxItems=*/-1); }
+  void Body(const cow_List<DeckName>&) { ArrayOf(DeckName(), /*minItems=*/-1, /*maxItems=*/-1); }
   template <class T, std::size_t N> void Body(const std::array<T, N>&) {
     ArrayOf(T(), static_cast<int>(N), static_cast<int>(N));
   }

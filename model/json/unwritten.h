@@ -14,7 +14,7 @@
 namespace keydeck {
 
 /// The record that would hold a key of these tables.
-enum class Holder { None, Model, Part, Assembly, Instance, Material };
+enum class Holder { None, Model, Part, Assembly, Instance, Material, Step };
 
 template <class R> constexpr Holder HolderOf = Holder::None;
 template <> inline constexpr Holder HolderOf<ddb_Model> = Holder::Model;
@@ -38,9 +38,13 @@ inline constexpr PendingFamily PendingFamilies[] = {
     {Holder::Model, "interactions", "interactions"},
     {Holder::Model, "interactionProperties", "interaction properties"},
     {Holder::Model, "constraints", "constraints"},
-    {Holder::Model, "fieldOutputRequests", "field output requests"},
-    {Holder::Model, "historyOutputRequests", "history output requests"},
     {Holder::Model, "connectorSections", "connector sections"},
+    // What an analysis step writes after its output requests.
+    {Holder::Step, "controls", "solution controls"},
+    {Holder::Step, "solverControls", "solver controls"},
+    {Holder::Step, "restart", "restart requests"},
+    {Holder::Step, "monitor", "monitors"},
+    {Holder::Step, "diagnosticPrint", "diagnostic prints"},
     {Holder::Assembly, "nodes", "assembly nodes"},
     {Holder::Assembly, "elements", "assembly elements"},
     {Holder::Assembly, "connectors", "connectors"},

@@ -39,7 +39,8 @@ TEST_F(StepCommand, WritesStepCardAndProcedureWithoutWarning) {
   EXPECT_EQ(run.status, 0) << run.err;
   EXPECT_EQ(run.err, "");
   EXPECT_NE(Deck().find("** STEP: Pull\n** \n*Step, name=Pull, nlgeom=YES\n*Static\n"
-                        "1., 1., 1e-05, 1.\n*End Step\n"),
+                        "1., 1., 1e-05, 1.\n*Output, field, frequency=0\n"
+                        "*Output, history, frequency=0\n*End Step\n"),
             std::string::npos)
       << Deck();
 }

@@ -291,8 +291,6 @@ TEST(Loader, FamiliesNotSupportedYet) {
       {"interactions", "interactions"},
       {"interactionProperties", "interaction properties"},
       {"constraints", "constraints"},
-      {"fieldOutputRequests", "field output requests"},
-      {"historyOutputRequests", "history output requests"},
       {"connectorSections", "connector sections"}};
   for (const auto& [key, words] : modelKeys) {
     SCOPED_TRACE(key);

@@ -227,6 +227,8 @@ TEST(StepBuilder, ExplicitJobStartsWithNlgeomOn) {
 , 1.
 *Bulk Viscosity
 0.06, 1.2
+*Output, field, variable=PRESELECT, number interval=0
+*Output, history, frequency=0
 *End Step
 )");
 }
@@ -235,9 +237,14 @@ TEST(StepBuilder, NlgeomStaysOnAndLoadCasesGetHeads) {
   const std::string deck = StepBlocks(R"(, {"name": "A", "procedure": "static", "nlgeom": true},
       {"name": "B", "procedure": "static", "loadCases": {"C": {}}},
       {"name": "C", "procedure": "anneal"})");
-  EXPECT_NE(deck.find("*Step, name=B, nlgeom=YES\n*Static\n1., 1., 1e-05, 1.\n** \n** LOAD CASES\n"
-                      "** \n*Load Case, name=C\n*Boundary, op=NEW\n*End Load Case\n*End Step\n"),
+  // Each step without output requests says so (Output lines) before its load cases.
+  EXPECT_NE(deck.find("*Step, name=B, nlgeom=YES\n*Static\n1., 1., 1e-05, 1.\n"
+                      "*Output, field, frequency=0\n*Output, history, frequency=0\n"
+                      "** \n** LOAD CASES\n** \n*Load Case, name=C\n*Boundary, op=NEW\n*End Load Case\n*End Step\n"),
             std::string::npos)
       << deck;
-  EXPECT_NE(deck.find("*Step, name=C, nlgeom=NO\n*Anneal\n*End Step\n"), std::string::npos) << deck;
+  EXPECT_NE(deck.find("*Step, name=C, nlgeom=NO\n*Anneal\n*Output, field, frequency=0\n"
+                      "*Output, history, frequency=0\n*End Step\n"),
+            std::string::npos)
+      << deck;
 }

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "base/cow_String.h"
+#include "model/output.h"
+#include "qkw/qkw_Keyword.h"
+
+/// "*Integrated Output, section=": totals over the request's integrated section.
+class oif_IntegratedOutput : public qkw_Keyword {
+public:
+  oif_IntegratedOutput(const korC_OdbRequest& request, unsigned procedure, bool preselect,
+                       bool all);
+  qkw_Keyword* Copy() const override;
+  void Write(utl_Stream& s) const override;
+
+private:
+  korC_OdbRequest request_;
+  unsigned procedure_;
+  bool preselect_;
+  bool all_;
+};
