@@ -49,7 +49,8 @@ protected:
   std::string Steps(const std::string& text) const {
     std::string err;
     EXPECT_EQ(Write(text, err), 0) << err;
-    const std::string deck = ReadFile((Out() / "model.inp").string());
+    const std::string deck =
+        keydeck::test::WithoutNoOutputLines(ReadFile((Out() / "model.inp").string()));
     const std::size_t at = deck.find("** STEP: Step-1");
     return at == std::string::npos ? deck : deck.substr(at);
   }

@@ -47,7 +47,7 @@ odb_Odb ModelWith(const std::string& loads, const std::string& steps) {
 // The load cards of each step: the deck lines from the first step on, less
 // the step banners, "*Step" lines and procedure cards.
 std::string LoadBlocks(const std::string& loads, const std::string& steps = ThreeSteps) {
-  const std::string deck = test::DeckOfModel(ModelWith(loads, steps));
+  const std::string deck = test::WithoutNoOutputLines(test::DeckOfModel(ModelWith(loads, steps)));
   std::string blocks;
   std::size_t at = deck.find("** ---");
   while (at < deck.size()) {

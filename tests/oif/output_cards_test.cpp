@@ -397,6 +397,7 @@ E,
 ** LOAD CASES
 ** 
 *Load Case, name=Case
+*Boundary, op=NEW
 *End Load Case
 )");
 }

@@ -13,6 +13,7 @@
 #include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <string_view>
 #include <unistd.h>
 
 namespace keydeck::test {
@@ -45,6 +46,15 @@ std::string ReadFile(const std::string& path) {
   std::ostringstream text;
   text << file.rdbuf();
   return text.str();
+}
+
+std::string WithoutNoOutputLines(std::string deck) {
+  for (const std::string_view line :
+       {"*Output, field, frequency=0\n", "*Output, history, frequency=0\n",
+        "*Output, field, variable=PRESELECT, number interval=0\n"})
+    for (std::size_t at = deck.find(line); at != std::string::npos; at = deck.find(line, at))
+      deck.erase(at, line.size());
+  return deck;
 }
 
 std::string FirstDifference(const std::string& expected, const std::string& actual) {

@@ -17,6 +17,10 @@ std::string DeckOfModel(const odb_Odb& odb, const char* modelName = "Default Mod
 /// The bytes of a file; empty when it cannot be read.
 std::string ReadFile(const std::string& path);
 
+/// The deck without the lines that ask for no output, which every analysis
+/// step without output requests writes: for tests of other cards of a step.
+std::string WithoutNoOutputLines(std::string deck);
+
 /// The first line where two texts differ, as "line N: expected ... / got ...".
 std::string FirstDifference(const std::string& expected, const std::string& actual);
 
