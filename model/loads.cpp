@@ -5,17 +5,6 @@ cow_String kloC_LoadTypeLabelMap(unsigned typeId) {
   return entry == nullptr ? cow_String() : cow_String(entry->deckText);
 }
 
-double kloC_Load::LoadCaseScale(const cow_String& step, const cow_String& loadCase,
-                                bool& found) const {
-  for (const kloC_LoadCaseShare& share : loadCases)
-    if (share.step == step && share.loadCase == loadCase) {
-      found = true;
-      return share.scale;
-    }
-  found = false;
-  return 0;
-}
-
 namespace keydeck {
 
 mdl_PropAttr<DeckName> AmplitudeOf(const kloC_Load& load, const cow_String& step) {

@@ -188,23 +188,7 @@ template <> struct EnumTable<kloC_EdgeLoadKindEnm> {
 
 } // namespace keydeck
 
-/// A load that takes part in a load case of a step, with its scale there.
-class kloC_LoadCaseShare {
-public:
-  static constexpr const char* Description = "a load case of a step that the load takes part in";
-  template <class V> void Fields(V& v) {
-    v({"step", "the step of the load case"}, step);
-    v({"loadCase", "the name of the load case in that step"}, loadCase);
-    v({"scale", "the factor on the load's values in the load case"}, scale, 1.0);
-  }
-
-  cow_String step;
-  cow_String loadCase;
-  double scale = 1.0;
-};
-
-/// The base of the load records: the kind, the region the load acts on and
-/// the load cases it takes part in.
+/// The base of the load records: the kind and the region the load acts on.
 class kloC_Load : public kprC_PropagatingRecord {
 public:
   virtual kloC_Load* Copy() const = 0;
@@ -216,22 +200,15 @@ public:
   /// model.
   virtual bool WholeModel() const { return false; }
 
-  /// The scale of the load in load case `loadCase` of `step`, or 0 with
-  /// `found` false when it takes no part in it.
-  double LoadCaseScale(const cow_String& step, const cow_String& loadCase, bool& found) const;
-
   template <class V> void LoadFields(V& v) {
     v({"type", "the kind of load, which decides its other fields"}, type);
     v({"region", "the region the load acts on: \"Set\" of the assembly or \"Instance.Set\""},
       regionName, keydeck::DeckName());
-    v({"loadCases", "the load cases the load takes part in, with its scale in each"}, loadCases,
-      cow_List<kloC_LoadCaseShare>());
   }
 
   kloC_LoadTypeEnm type = kloC_ConcentratedForceType; ///< the kind, which is the class
   keydeck::DeckName regionName;                       ///< empty for the whole model
-  cow_List<kloC_LoadCaseShare> loadCases;
-  rgnC_Region region; ///< derived after loading from `regionName`
+  rgnC_Region region;                                 ///< derived after loading from `regionName`
 };
 
 /// The state of a load of one value: its magnitude, its imaginary part (a

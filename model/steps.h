@@ -80,12 +80,13 @@ template <> struct EnumTable<kprC_ProcedureEnm> {
 
 } // namespace keydeck
 
-/// A boundary condition that a load case applies, and the factor on its values.
-struct klcC_BCEntry {
-  static constexpr const char* Description = "a boundary condition of the load case";
+/// A boundary condition or load that a load case applies, and the factor on
+/// its values.
+struct klcC_ConditionEntry {
+  static constexpr const char* Description = "a boundary condition or load of the load case";
   double scale = 1.0;
   template <class V> void Fields(V& v) {
-    v({"scale", "the factor on the condition's values in this load case"}, scale, 1.0);
+    v({"scale", "the factor on the values in this load case"}, scale, 1.0);
   }
 };
 
@@ -103,11 +104,14 @@ public:
     v({"includeBaseState", "true to take in the conditions of the base state"}, includeBaseState,
       false);
     v({"boundaryConditions", "the boundary conditions of the load case, by name"},
-      boundaryConditions, cow_Btree<cow_String, klcC_BCEntry>());
+      boundaryConditions, cow_Btree<cow_String, klcC_ConditionEntry>());
+    v({"loads", "the loads of the load case, by name"}, loads,
+      cow_Btree<cow_String, klcC_ConditionEntry>());
   }
 
   bool includeBaseState = false;
-  cow_Btree<cow_String, klcC_BCEntry> boundaryConditions;
+  cow_Btree<cow_String, klcC_ConditionEntry> boundaryConditions;
+  cow_Btree<cow_String, klcC_ConditionEntry> loads;
 };
 
 /// A step of the model. The first step of a model is its initial step.

@@ -171,12 +171,10 @@ cow_List<cow_String> oif_BoundaryConditionBuilder::CreateBoltLoadBCs(const cow_S
       served.Append(cow_String());
       continue;
     }
-    for (const cow_String& loadCase : analysis->loadCases.Keys()) {
-      bool found = false;
-      const double scale = load->LoadCaseScale(step, loadCase, found);
-      if (found && BoltLoadBCDetails(load, name, step, loadCase, scale))
-        served.Append(loadCase);
-    }
+    for (const auto& [loadCaseName, loadCase] : analysis->loadCases)
+      if (loadCase->loads.IsMember(name) &&
+          BoltLoadBCDetails(load, name, step, loadCaseName, loadCase->loads.ConstGet(name).scale))
+        served.Append(loadCaseName);
   }
   return served;
 }

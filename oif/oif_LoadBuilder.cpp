@@ -79,12 +79,9 @@ void oif_LoadBuilder::CreateLoadCard(const cow_String& name, const LoadHandle& l
   if (kprC_AnalysisStep::IsKindOf(record.DynTypeId())) {
     const auto& loadCases = RecordCast<kprC_AnalysisStep>(record).loadCases;
     // A step with load cases holds its loads in them, never in its own list.
-    for (const cow_String& loadCase : loadCases.Keys()) {
-      bool found = false;
-      const double scale = load->LoadCaseScale(step, loadCase, found);
-      if (found)
-        LoadCardDetails(name, load, step, loadCase, scale);
-    }
+    for (const auto& [loadCaseName, loadCase] : loadCases)
+      if (loadCase->loads.IsMember(name))
+        LoadCardDetails(name, load, step, loadCaseName, loadCase->loads.ConstGet(name).scale);
     if (!loadCases.Empty())
       return;
   }

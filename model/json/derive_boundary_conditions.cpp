@@ -67,17 +67,25 @@ void DeriveOne(ddb_Model& model, kbcC_BC& bc, const std::string& path, LoadError
   CheckStates(model, bc, path, errors);
 }
 
+// The boundary conditions and loads that the load cases name must exist.
 void CheckLoadCases(std::string_view modelPath, const ddb_Model& model, LoadErrors& errors) {
   const kprC_StepContainer& steps = model.step().container();
   for (int i = 1; i < steps.Size(); ++i) {
     const kprC_AnalysisStep& step = RecordCast<kprC_AnalysisStep>(steps.StepAt(i));
-    for (const auto& [caseName, loadCase] : step.loadCases)
-      for (const auto& [bcName, entry] : loadCase->boundaryConditions)
-        if (!model.boundaryConditions().IsMember(bcName))
-          errors.Add(std::string(modelPath) + "/steps/" + std::to_string(i) + "/loadCases/" +
-                         std::string(caseName.View()) + "/boundaryConditions/" +
-                         std::string(bcName.View()),
-                     "no boundary condition " + QuotedJson(bcName.View()));
+    for (const auto& [caseName, loadCase] : step.loadCases) {
+      const std::string casePath = std::string(modelPath) + "/steps/" + std::to_string(i) +
+                                   "/loadCases/" + std::string(caseName.View());
+      const auto check = [&](const auto& entries, const auto& records, std::string_view key,
+                             std::string_view noun) {
+        for (const auto& [name, entry] : entries)
+          if (!records.IsMember(name))
+            errors.Add(casePath + "/" + std::string(key) + "/" + std::string(name.View()),
+                       "no " + std::string(noun) + " " + QuotedJson(name.View()));
+      };
+      check(loadCase->boundaryConditions, model.boundaryConditions(), "boundaryConditions",
+            "boundary condition");
+      check(loadCase->loads, model.loads(), "loads", "load");
+    }
   }
 }
 

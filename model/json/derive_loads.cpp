@@ -130,24 +130,6 @@ void CheckState(const ddb_Model& model, const kloC_Load& load, const State& stat
   });
 }
 
-void CheckLoadCases(const ddb_Model& model, const kloC_Load& load, const std::string& path,
-                    LoadErrors& errors) {
-  const kprC_StepContainer& steps = model.step().container();
-  for (int i = 0; i < load.loadCases.Size(); ++i) {
-    const kloC_LoadCaseShare& share = load.loadCases.ConstGet(i);
-    const std::string at = path + "/loadCases/" + std::to_string(i);
-    if (!steps.IsMember(share.step)) {
-      errors.Add(at + "/step", "no step " + QuotedJson(share.step.View()));
-      continue;
-    }
-    const kprC_Step& step = steps.ConstGet(share.step);
-    if (!kprC_AnalysisStep::IsKindOf(step.DynTypeId()) ||
-        !RecordCast<kprC_AnalysisStep>(step).loadCases.IsMember(share.loadCase))
-      errors.Add(at + "/loadCase", "no load case " + QuotedJson(share.loadCase.View()) +
-                                       " in step " + QuotedJson(share.step.View()));
-  }
-}
-
 bool IsZero(const std::array<double, 3>& v) { return v[0] == 0 && v[1] == 0 && v[2] == 0; }
 
 // The checks of the fields that only some kinds have.
@@ -182,7 +164,6 @@ void DeriveKind(const ddb_Model& model, K& load, const std::string& path, LoadEr
   for (const auto& [step, change] : load.changes)
     CheckState(model, load, change.state, step, path + "/steps/" + std::string(step.View()),
                errors);
-  CheckLoadCases(model, load, path, errors);
 }
 
 } // namespace

@@ -173,6 +173,10 @@ TEST_F(BoundaryConditionsCommand, BadConditionsFailWithTheirPath) {
                  R"([{"name": "Initial"}, {"name": "Step-1", "procedure": "static",
                      "loadCases": {"A": {"boundaryConditions": {"Nope": {}}}}}])"),
        "models/M/steps/1/loadCases/A/boundaryConditions/Nope: no boundary condition \"Nope\"\n"},
+      {ModelText(R"("boundaryConditions": {})",
+                 R"([{"name": "Initial"}, {"name": "Step-1", "procedure": "static",
+                     "loadCases": {"A": {"loads": {"Nope": {"scale": 2}}}}}])"),
+       "models/M/steps/1/loadCases/A/loads/Nope: no load \"Nope\"\n"},
   };
   ExpectFailures(cases, std::size(cases));
 }

@@ -32,7 +32,8 @@ protected:
       "assembly": {"instances": {"P-1": {"part": "P"}}},
       "amplitudes": {"Ramp": {"type": "tabular", "data": [0, 0, 1, 1]}},
       "steps": [{"name": "Initial"},
-                {"name": "S1", "procedure": "static", "loadCases": {"LC": {}}}],
+                {"name": "S1", "procedure": "static",
+                 "loadCases": {"LC": {"loads": {"L": {}}}}}],
       "loads": )" << loads
                          << "}}}";
     const keydeck::test::Outcome outcome = keydeck::test::RunKeydeck(
@@ -59,12 +60,6 @@ TEST_F(LoadsCommand, RefusesWhatTheModelCannotCarry) {
       {R"({"L": {"type": "gravity", "createdIn": "S1", "component3": -1, "amplitude": "Step",
                  "steps": {}}})",
        "models/M/loads/L/amplitude: no amplitude \"Step\" in the model\n"},
-      {R"({"L": {"type": "concentratedForce", "region": "P-1.Tip", "createdIn": "S1",
-                 "loadCases": [{"step": "S1", "loadCase": "LC-2", "scale": 2}]}})",
-       "models/M/loads/L/loadCases/0/loadCase: no load case \"LC-2\" in step \"S1\"\n"},
-      {R"({"L": {"type": "concentratedForce", "region": "P-1.Tip", "createdIn": "S1",
-                 "loadCases": [{"step": "Initial", "loadCase": "LC"}]}})",
-       "models/M/loads/L/loadCases/0/loadCase: no load case \"LC\" in step \"Initial\"\n"},
       {R"({"L": {"type": "concentratedForce", "region": "P-1.Tip", "createdIn": "S1",
                  "component1": 1, "imaginary1": 2}})",
        "models/M/loads/L/imaginary1: step \"S1\" takes no imaginary parts: only a steady-state "
@@ -94,13 +89,13 @@ TEST_F(LoadsCommand, RefusesWhatTheModelCannotCarry) {
 TEST_F(LoadsCommand, WritesALoadOfTheModel) {
   std::string err;
   ASSERT_EQ(Write(R"({"L": {"type": "concentratedHeatFlux", "region": "P-1.Tip",
-                           "createdIn": "S1", "magnitude": 2, "dof": 12,
-                           "loadCases": [{"step": "S1", "loadCase": "LC"}]}})",
+                           "createdIn": "S1", "magnitude": 2, "dof": 12}})",
                   err),
             0)
       << err;
   const std::string deck = keydeck::test::ReadFile((folder_ / "model.inp").string());
-  EXPECT_NE(deck.find("*Load Case, name=LC\n*Boundary, op=NEW\n** Name: L   Type: Concentrated heat flux   Scale "
+  EXPECT_NE(deck.find("*Load Case, name=LC\n*Boundary, op=NEW\n** Name: L   Type: Concentrated "
+                      "heat flux   Scale "
                       "factor: 1\n*Cflux\nP-1.Tip, 12, 2.\n*End Load Case\n"),
             std::string::npos)
       << deck;

@@ -124,11 +124,10 @@ TEST(LoadBuilder, TwoLoadsOfOneClassOnOneRegionRestartInEveryStep) {
 
 TEST(LoadBuilder, LoadCaseHoldsItsOwnLoadsWithTheirScale) {
   const char* steps = R"([{"name": "Initial"},
-      {"name": "S1", "procedure": "static", "loadCases": {"LC-B": {}, "LC-A": {}}}])";
+      {"name": "S1", "procedure": "static",
+       "loadCases": {"LC-B": {"loads": {"F": {"scale": -1}}}, "LC-A": {"loads": {"F": {"scale": 2.5}}}}}])";
   EXPECT_EQ(LoadBlocks(R"({"F": {"type": "concentratedForce", "region": "Load", "createdIn": "S1",
-                               "component1": 4, "loadCases": [
-                                 {"step": "S1", "loadCase": "LC-A", "scale": 2.5},
-                                 {"step": "S1", "loadCase": "LC-B", "scale": -1}]},
+                               "component1": 4},
                          "Other": {"type": "pressure", "region": "B-1.Top", "createdIn": "S1",
                                    "magnitude": 1}})",
                        steps),
