@@ -280,7 +280,7 @@ template <class Keep> cow_List<cow_String> Select(unsigned procedure, Keep&& kee
 
 } // namespace
 
-korC_OdbRequestSpec korC_OdbRequestTable::Request(std::string_view name, unsigned procedure) {
+korC_OdbVariable korC_OdbRequestTable::Request(std::string_view name, unsigned procedure) {
   const Row* row = FindParent(name, procedure);
   if (row == nullptr)
     return {};

@@ -36,7 +36,7 @@ enum korC_OutputPositionEnm : int {
 
 /// What the table says of one variable: its card, its position, and whether
 /// the deck prints its components by their own names.
-struct korC_OdbRequestSpec {
+struct korC_OdbVariable {
   korC_OutputKindEnm kind = korC_NodeKind;
   korC_OutputPositionEnm position = korC_AtNodes;
   /// True for a group whose members the solver takes one by one ("MISES" of
@@ -60,7 +60,7 @@ class korC_OdbRequestTable {
 public:
   /// What the table says of a parent variable of `procedure`; kind node and
   /// position nodes for a name that is none.
-  static korC_OdbRequestSpec Request(std::string_view name, unsigned procedure);
+  static korC_OdbVariable Request(std::string_view name, unsigned procedure);
   /// True for a parent variable that exists in `procedure`.
   static bool IsParentRequest(std::string_view name, unsigned procedure);
   /// True for a component of a parent variable of `procedure`.

@@ -27,11 +27,11 @@ qkw_Keyword* oif_ElementOutput::Copy() const { return new oif_ElementOutput(*thi
 cow_List<cow_String> oif_ElementOutput::Variables() const {
   const bool noInteractions = request_.interactions.Empty();
   return SubCardVariables(
-      request_, procedure_, [&](const korC_OdbRequestSpec& spec, bool wasComponent) {
+      request_, procedure_, [&](const korC_OdbVariable& variable, bool wasComponent) {
         const bool element =
-            spec.kind == korC_ElementKind ||
-            (spec.kind == korC_ContactOrElementKind && !wasComponent && noInteractions);
-        return element && (rebar_ || spec.position != korC_RebarLayer);
+            variable.kind == korC_ElementKind ||
+            (variable.kind == korC_ContactOrElementKind && !wasComponent && noInteractions);
+        return element && (rebar_ || variable.position != korC_RebarLayer);
       });
 }
 

@@ -13,9 +13,9 @@ void WriteItem(utl_Stream& s, int item) { s << item; }
 
 cow_List<cow_String> SubCardVariablesOfKinds(const korC_OdbRequest& request, unsigned procedure,
                                              std::initializer_list<korC_OutputKindEnm> kinds) {
-  return SubCardVariables(request, procedure, [&](const korC_OdbRequestSpec& spec, bool) {
+  return SubCardVariables(request, procedure, [&](const korC_OdbVariable& variable, bool) {
     for (const korC_OutputKindEnm kind : kinds)
-      if (spec.kind == kind)
+      if (variable.kind == kind)
         return true;
     return false;
   });

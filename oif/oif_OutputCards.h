@@ -14,7 +14,7 @@ namespace keydeck {
 
 /// The names a sub-card prints, in first-seen order without doubles. Each
 /// variable of the request that the procedure knows (a component stands for
-/// its parent) is kept when `keep(spec, wasComponent)` says so; it prints as
+/// its parent) is kept when `keep(variable, wasComponent)` says so; it prints as
 /// the print name the table gives it.
 template <class Keep>
 cow_List<cow_String> SubCardVariables(const korC_OdbRequest& request, unsigned procedure,
@@ -28,9 +28,9 @@ cow_List<cow_String> SubCardVariables(const korC_OdbRequest& request, unsigned p
         continue;
       parent = korC_OdbRequestTable::RequestFromComponent(held.View(), procedure);
     }
-    const korC_OdbRequestSpec spec = korC_OdbRequestTable::Request(parent.View(), procedure);
-    if (keep(spec, wasComponent))
-      names.AppendUnlessMember(spec.PrintName(held, parent));
+    const korC_OdbVariable variable = korC_OdbRequestTable::Request(parent.View(), procedure);
+    if (keep(variable, wasComponent))
+      names.AppendUnlessMember(variable.PrintName(held, parent));
   }
   return names;
 }
