@@ -10,8 +10,7 @@ cow_String kbcC_BCTypeLabelMap::Label(unsigned typeId) {
 }
 
 bool kbcC_BCState::UseComplex(unsigned procedureType) {
-  return procedureType == kprC_SteadyStateDirect || procedureType == kprC_SteadyStateModal ||
-         procedureType == kprC_SteadyStateSubspace;
+  return IsSteadyStateProcedure(procedureType);
 }
 
 bool kbcC_DistributedBC::IsKindOf(unsigned id) {

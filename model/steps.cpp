@@ -7,6 +7,11 @@ bool kprC_AnalysisStep::IsKindOf(unsigned id) {
   return id == TypeId() || keydeck::FindEnumEntry(static_cast<kprC_ProcedureEnm>(id)) != nullptr;
 }
 
+bool IsSteadyStateProcedure(unsigned procedure) {
+  return procedure == kprC_SteadyStateDirect || procedure == kprC_SteadyStateModal ||
+         procedure == kprC_SteadyStateSubspace;
+}
+
 bool kprC_AnalysisStep::Perturbation() const {
   switch (procedure) {
   case kprC_Buckle:

@@ -80,6 +80,10 @@ template <> struct EnumTable<kprC_ProcedureEnm> {
 
 } // namespace keydeck
 
+/// True for the steady-state procedures (direct, modal, subspace): the steps
+/// whose conditions and loads carry imaginary parts.
+bool IsSteadyStateProcedure(unsigned procedure);
+
 /// A boundary condition or load that a load case applies, and the factor on
 /// its values.
 struct klcC_ConditionEntry {

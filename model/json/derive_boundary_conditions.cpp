@@ -10,24 +10,6 @@ namespace keydeck {
 
 namespace {
 
-// The id of the datum that `scopedName` names: "Datum" of the assembly or
-// "Instance.Datum", which the assembly holds as "Instance_Datum"; 0 for none.
-// The assembly's datums come after those of the parts, so the search runs
-// from the end.
-int FindDatum(const ddb_Model& model, std::string_view scopedName) {
-  std::vector<std::string_view> pieces;
-  std::string why;
-  if (!SplitScopedName(scopedName, pieces, why) || pieces.size() > 2)
-    return 0;
-  const std::string wanted = pieces.size() == 1
-                                 ? std::string(pieces[0])
-                                 : std::string(pieces[0]) + "_" + std::string(pieces[1]);
-  for (int id = model.datums_.Size(); id > 0; --id)
-    if (model.datum(id).Shortcut().View() == wanted)
-      return id;
-  return 0;
-}
-
 // The path of what `step` says of a record at `recordPath`: the record's own
 // fields for the step that creates it, its "steps" entry otherwise.
 std::string StepPath(const std::string& recordPath, const kbcC_BC& bc, const cow_String& step) {
@@ -59,10 +41,7 @@ void DeriveOne(ddb_Model& model, kbcC_BC& bc, const std::string& path, LoadError
                                        "node set");
   }
   if (!bc.csysName.Empty()) {
-    bc.csys = dtmC_DatumRef(FindDatum(model, bc.csysName.View()));
-    if (bc.csys.IsNullRef())
-      errors.Add(path + "/csys", "no datum " + QuotedJson(bc.csysName.View()) +
-                                     " in the assembly or its instances");
+    bc.csys = ResolveDatum(model, bc.csysName.View(), path + "/csys", errors);
   }
   CheckStates(model, bc, path, errors);
 }

@@ -68,41 +68,11 @@ void DeriveRegion(const ddb_Model& model, kloC_Load& load, const std::string& pa
   load.region = std::move(region);
 }
 
-// The id of the datum that a load names in the assembly's frame, or 0.
-int DatumId(const ddb_Model& model, std::string_view scopedName) {
-  std::vector<std::string_view> pieces;
-  std::string why;
-  if (!SplitScopedName(scopedName, pieces, why) || pieces.size() > 2)
-    return 0;
-  const std::string shortcut = pieces.size() == 1
-                                   ? std::string(pieces[0])
-                                   : std::string(pieces[0]) + "_" + std::string(pieces[1]);
-  // The parts' datums come first, in their parts' frames; a load names one
-  // placed in the assembly.
-  int partDatums = 0;
-  for (const auto& [name, part] : model.parts_.parts_)
-    partDatums += part.datums_.Size();
-  for (int i = partDatums; i < model.datums_.Size(); ++i)
-    if (model.datums_.ConstGet(i).Shortcut().View() == shortcut)
-      return i + 1;
-  return 0;
-}
-
 void DeriveCsys(const ddb_Model& model, LoadCsys& csys, const std::string& path,
                 LoadErrors& errors) {
   if (csys.csysName.Empty())
     return;
-  const int id = DatumId(model, csys.csysName.View());
-  if (id == 0)
-    errors.Add(path + "/csys", "no datum " + QuotedJson(csys.csysName.View()) +
-                                   " in the assembly or its instances");
-  csys.csys = dtmC_DatumRef(id);
-}
-
-bool IsSteadyState(const kprC_Step& step) {
-  const unsigned id = step.DynTypeId();
-  return id == kprC_SteadyStateDirect || id == kprC_SteadyStateModal ||
-         id == kprC_SteadyStateSubspace;
+  csys.csys = ResolveDatum(model, csys.csysName.View(), path + "/csys", errors);
 }
 
 // Checks what one step entry of a load gives: its amplitude and its
@@ -122,7 +92,7 @@ void CheckState(const ddb_Model& model, const kloC_Load& load, const State& stat
       if (load.DynTypeId() == kloC_ConcentratedPoreFluidType)
         errors.Add(at, "a concentrated pore fluid load cannot be complex");
       else if (model.step().container().IsMember(stepName) &&
-               !IsSteadyState(model.step().container().ConstGet(stepName)))
+               !IsSteadyStateProcedure(model.step().container().ConstGet(stepName).DynTypeId()))
         errors.Add(at, "step " + QuotedJson(stepName.View()) +
                            " takes no imaginary parts: only a steady-state step carries a "
                            "complex load");

@@ -104,4 +104,35 @@ rgnC_Region ResolveRegion(const ddb_Model& model, std::string_view scopedName,
                   "rootAssembly.mesh[" + cow_String(instance.mesh().meshIndex()) + "].setData");
 }
 
+namespace {
+
+// The id of the datum in the assembly's frame whose shortcut is `shortcut`,
+// or 0. The parts' datums come first, in their parts' frames, and are not
+// among them.
+int AssemblyDatumId(const ddb_Model& model, std::string_view shortcut) {
+  int partDatums = 0;
+  for (const auto& [name, part] : model.parts_.parts_)
+    partDatums += part.datums_.Size();
+  for (int i = partDatums; i < model.datums_.Size(); ++i)
+    if (model.datums_.ConstGet(i).Shortcut().View() == shortcut)
+      return i + 1;
+  return 0;
+}
+
+} // namespace
+
+dtmC_DatumRef ResolveDatum(const ddb_Model& model, std::string_view scopedName,
+                           const std::string& path, LoadErrors& errors) {
+  std::vector<std::string_view> pieces;
+  std::string why;
+  int id = 0;
+  if (SplitScopedName(scopedName, pieces, why) && pieces.size() <= 2)
+    id = AssemblyDatumId(model, pieces.size() == 1
+                                    ? std::string(pieces[0])
+                                    : std::string(pieces[0]) + "_" + std::string(pieces[1]));
+  if (id == 0)
+    errors.Add(path, "no datum " + QuotedJson(scopedName) + " in the assembly or its instances");
+  return dtmC_DatumRef(id);
+}
+
 } // namespace keydeck

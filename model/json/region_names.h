@@ -27,4 +27,11 @@ bool SplitScopedName(std::string_view scopedName, std::vector<std::string_view>&
 rgnC_Region ResolveRegion(const ddb_Model& model, std::string_view scopedName,
                           std::string_view path, LoadErrors& errors);
 
+/// The datum coordinate system that a record names by `scopedName` in the
+/// assembly's frame: "Datum" of the assembly or "Instance.Datum", which the
+/// assembly holds as "Instance_Datum". A name that finds none adds
+/// `path: no datum ...` to `errors` and gives a null reference.
+dtmC_DatumRef ResolveDatum(const ddb_Model& model, std::string_view scopedName,
+                           const std::string& path, LoadErrors& errors);
+
 } // namespace keydeck
