@@ -27,6 +27,12 @@ public:
     list.items_.Write().reserve(static_cast<std::size_t>(std::max(count, 0)));
     return list;
   }
+  /// The list of `items`, taken over without a copy.
+  static cow_List Adopt(std::vector<T>&& items) {
+    cow_List list;
+    list.items_ = keydeck::CowBox<std::vector<T>>(std::move(items));
+    return list;
+  }
 
   int Size() const { return static_cast<int>(Items().size()); }
   bool Empty() const { return Items().empty(); }

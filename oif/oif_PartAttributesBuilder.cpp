@@ -1,6 +1,7 @@
 #include "oif/oif_PartAttributesBuilder.h"
 
 #include "base/gsl_Matrix.h"
+#include "base/large_lists.h"
 #include "model/database.h"
 #include "oif/oif_BeamGeneralSection.h"
 #include "oif/oif_BeamSection.h"
@@ -41,6 +42,28 @@ int ForEachMember(const rgnC_SetData& set, const std::vector<int>& classStarts,
   }
   return count;
 }
+
+// The class key of each property in turn. Classes get their keys in order of
+// first appearance through a linear search, as their number stays small;
+// neighbours in the mesh mostly share their class, so the last key found is
+// tried first.
+class PropertyClasses {
+public:
+  std::size_t KeyOf(const bme_Property& property) {
+    if (last_ < firsts_.size() && firsts_[last_] == property)
+      return last_;
+    last_ = 0;
+    while (last_ < firsts_.size() && !(firsts_[last_] == property))
+      ++last_;
+    if (last_ == firsts_.size())
+      firsts_.push_back(property);
+    return last_;
+  }
+
+private:
+  std::vector<bme_Property> firsts_; // the first member of each class
+  std::size_t last_ = 0;
+};
 
 cow_String Numbered(const char* prefix, int number) { return prefix + cow_String(number); }
 
@@ -85,6 +108,8 @@ void oif_PartAttributesBuilder::InitializePropertyArray(const ddb_PartInstance& 
                                                         InstanceArrays& arrays) const {
   const ddb_ElementData& elements = instance.elementData();
   arrays.properties.reserve(static_cast<std::size_t>(elements.numElements()));
+  keydeck::AdviseHugePages(arrays.properties.data(),
+                           arrays.properties.capacity() * sizeof(bme_Property));
   for (int k = 0; k < elements.numClasses(); ++k) {
     arrays.classStarts.push_back(static_cast<int>(arrays.properties.size()));
     for (const int label : elements.elementClass(k).userElementLabelsAsFlatArray())
@@ -142,25 +167,29 @@ void oif_PartAttributesBuilder::SetMatOriInArray(const ddb_PartInstance& instanc
 }
 
 void oif_PartAttributesBuilder::ProcessPropertyArray(const ddb_PartInstance& instance,
-                                                     const InstanceArrays& arrays) {
+                                                     InstanceArrays& arrays) {
   if (arrays.properties.empty())
     return;
-  // Classes get their keys in order of first appearance; the search is
-  // linear, as the number of classes stays small.
-  std::vector<std::vector<bme_Property>> members;
+  PropertyClasses keys;
+  std::vector<int> counts;
   for (const bme_Property& property : arrays.properties) {
-    std::size_t key = 0;
-    while (key < members.size() && !(members[key].front() == property))
-      ++key;
-    if (key == members.size())
-      members.emplace_back();
-    members[key].push_back(property);
+    const std::size_t key = keys.KeyOf(property);
+    if (key == counts.size())
+      counts.push_back(0);
+    ++counts[key];
   }
   bme_MapPropertyArray classes;
-  for (std::size_t key = 0; key < members.size(); ++key) {
-    cow_List<bme_Property> list;
-    list.SetFromArray(members[key].data(), static_cast<int>(members[key].size()));
-    classes.Insert(static_cast<int>(key), std::move(list));
+  if (counts.size() == 1) {
+    // One class, the usual case: its members are the whole array, in order.
+    classes.Insert(0, cow_List<bme_Property>::Adopt(std::move(arrays.properties)));
+  } else {
+    std::vector<cow_List<bme_Property>> members;
+    for (const int count : counts)
+      members.push_back(cow_List<bme_Property>::WithCapacity(count));
+    for (const bme_Property& property : arrays.properties)
+      members[keys.KeyOf(property)].Append(property);
+    for (std::size_t key = 0; key < members.size(); ++key)
+      classes.Insert(static_cast<int>(key), std::move(members[key]));
   }
   CreateSetsAndAttributes(instance, arrays, classes);
 }

@@ -56,7 +56,8 @@ private:
   void SetElemCtrlInArray(const ddb_PartInstance& instance, InstanceArrays& arrays);
   void SetBeamOriInArray(const ddb_PartInstance& instance, InstanceArrays& arrays) const;
   void SetMatOriInArray(const ddb_PartInstance& instance, InstanceArrays& arrays) const;
-  void ProcessPropertyArray(const ddb_PartInstance& instance, const InstanceArrays& arrays);
+  /// Classes the elements; a single class takes the property array over.
+  void ProcessPropertyArray(const ddb_PartInstance& instance, InstanceArrays& arrays);
   void CreateSetsAndAttributes(const ddb_PartInstance& instance, const InstanceArrays& arrays,
                                const bme_MapPropertyArray& classes);
   void CreateClassAttributes(const ddb_PartInstance& instance, const InstanceArrays& arrays,

@@ -6,7 +6,7 @@
 #include "model/json/derive_sections.h"
 #include "model/json/derive_output.h"
 #include "model/json/json_text.h"
-#include "model/json/large_lists.h"
+#include "base/large_lists.h"
 #include "model/json/region_names.h"
 #include "model/propagation.h"
 

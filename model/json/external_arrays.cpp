@@ -1,6 +1,6 @@
 #include "model/json/external_arrays.h"
 
-#include "model/json/large_lists.h"
+#include "base/large_lists.h"
 
 #include <algorithm>
 #include <charconv>

@@ -7,7 +7,7 @@
 #include "model/json/fields.h"
 #include "model/json/json_syntax.h"
 #include "model/json/json_text.h"
-#include "model/json/large_lists.h"
+#include "base/large_lists.h"
 #include "model/json/unwritten.h"
 
 #include <simdjson.h>

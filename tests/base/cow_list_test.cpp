@@ -174,6 +174,12 @@ TEST(CowList, ResizeFillAndArrays) {
   EXPECT_EQ(list.Size(), 0);
   list.Append(1);
   EXPECT_EQ(Items(list), (std::vector<int>{1}));
+
+  std::vector<int> items{7, 8};
+  const int* const storage = items.data();
+  const cow_List<int> adopted = cow_List<int>::Adopt(std::move(items));
+  EXPECT_EQ(Items(adopted), (std::vector<int>{7, 8}));
+  EXPECT_EQ(adopted.GetCArray(), storage); // taken over, not copied
 }
 
 TEST(CowList, CopyChangesIndependentlyOfItsSource) {

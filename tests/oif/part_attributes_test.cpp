@@ -58,16 +58,26 @@ TEST(PartAttributes, UniformAssignmentIsOneClassOnItsOwnSet) {
             "** Region: (A:All)\n** Section: A\n*Solid Section, elset=All, material=Steel\n1.,\n");
 }
 
+// The same classes when the element classes put the elements in the order
+// 1, 3, 2, so that the classes alternate along the mesh.
 TEST(PartAttributes, MaterialOrientationCutsAnAssignmentIntoClasses) {
-  EXPECT_EQ(AttributesOf(R"(, "sectionAssignments": [{"region": "All", "section": "A"}],
-                            "materialOrientations": [{"region": "Last", "datum": "D"}])"),
-            std::string("** Region: (A:All)\n*Elset, elset=_I1, internal\n1,2\n"
-                        "** Section: A\n*Solid Section, elset=_I1, material=Steel\n1.,\n") +
-                Orientation +
-                "** Region: (A:All), (Material Orientation:Last)\n"
-                "*Elset, elset=_I2, internal\n3, \n"
-                "** Section: A\n*Solid Section, elset=_I2, orientation=Ori-1, material=Steel\n"
-                "1.,\n");
+  const std::string meshOrder;
+  const std::string alternating =
+      R"([{"type": "B31", "labels": [1, 3], "connectivity": [[1, 2], [3, 4]]},
+          {"type": "T3D2", "labels": [2], "connectivity": [[2, 3]]}])";
+  for (const std::string& elements : {meshOrder, alternating}) {
+    SCOPED_TRACE(elements);
+    EXPECT_EQ(AttributesOf(R"(, "sectionAssignments": [{"region": "All", "section": "A"}],
+                              "materialOrientations": [{"region": "Last", "datum": "D"}])",
+                           elements),
+              std::string("** Region: (A:All)\n*Elset, elset=_I1, internal\n1,2\n"
+                          "** Section: A\n*Solid Section, elset=_I1, material=Steel\n1.,\n") +
+                  Orientation +
+                  "** Region: (A:All), (Material Orientation:Last)\n"
+                  "*Elset, elset=_I2, internal\n3, \n"
+                  "** Section: A\n*Solid Section, elset=_I2, orientation=Ori-1, material=Steel\n"
+                  "1.,\n");
+  }
 }
 
 // The later assignment wins; a class that is its assignment's whole set

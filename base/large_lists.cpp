@@ -1,4 +1,4 @@
-#include "model/json/large_lists.h"
+#include "base/large_lists.h"
 
 #include <cstdint>
 #include <sys/mman.h>

@@ -1,6 +1,6 @@
 // Mesh-sized lists ask for huge pages before they are first touched.
 
-#include "model/json/large_lists.h"
+#include "base/large_lists.h"
 
 #include <gtest/gtest.h>
 
