@@ -107,6 +107,9 @@ public:
   template <class V> void Fields(V& v) {
     v({"includeBaseState", "true to take in the conditions of the base state"}, includeBaseState,
       false);
+    v({"baseStateOnly", "true when the load case takes no loads of its own; when all load cases "
+                        "of the step do, the step's loads stand in the step itself"},
+      baseStateOnly, false);
     v({"boundaryConditions", "the boundary conditions of the load case, by name"},
       boundaryConditions, cow_Btree<cow_String, klcC_ConditionEntry>());
     v({"loads", "the loads of the load case, by name"}, loads,
@@ -114,6 +117,7 @@ public:
   }
 
   bool includeBaseState = false;
+  bool baseStateOnly = false;
   cow_Btree<cow_String, klcC_ConditionEntry> boundaryConditions;
   cow_Btree<cow_String, klcC_ConditionEntry> loads;
 };

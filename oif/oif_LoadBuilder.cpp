@@ -77,12 +77,17 @@ void oif_LoadBuilder::CreateLoadCard(const cow_String& name, const LoadHandle& l
                                      const cow_String& step) {
   const kprC_Step& record = model->Steps().ConstGet(step);
   if (kprC_AnalysisStep::IsKindOf(record.DynTypeId())) {
-    const auto& loadCases = RecordCast<kprC_AnalysisStep>(record).loadCases;
-    // A step with load cases holds its loads in them, never in its own list.
-    for (const auto& [loadCaseName, loadCase] : loadCases)
+    // A step with load cases holds its loads in them; only when every load
+    // case takes the base state alone do they stand in the step's own list.
+    bool examined = false;
+    for (const auto& [loadCaseName, loadCase] : RecordCast<kprC_AnalysisStep>(record).loadCases) {
+      if (loadCase->baseStateOnly)
+        continue;
+      examined = true;
       if (loadCase->loads.IsMember(name))
         LoadCardDetails(name, load, step, loadCaseName, loadCase->loads.ConstGet(name).scale);
-    if (!loadCases.Empty())
+    }
+    if (examined)
       return;
   }
   LoadCardDetails(name, load, step, cow_String(), 1.0);

@@ -177,6 +177,12 @@ TEST_F(BoundaryConditionsCommand, BadConditionsFailWithTheirPath) {
                  R"([{"name": "Initial"}, {"name": "Step-1", "procedure": "static",
                      "loadCases": {"A": {"loads": {"Nope": {"scale": 2}}}}}])"),
        "models/M/steps/1/loadCases/A/loads/Nope: no load \"Nope\"\n"},
+      {ModelText(R"("boundaryConditions": {})",
+                 R"([{"name": "Initial"}, {"name": "Step-1", "procedure": "static",
+                     "loadCases": {"A": {"baseStateOnly": true, "loads": {"Nope": {}}}}}])"),
+       "models/M/steps/1/loadCases/A/loads/Nope: no load \"Nope\"\n"
+       "models/M/steps/1/loadCases/A/loads: a load case with \"baseStateOnly\" takes no loads "
+       "of its own\n"},
   };
   ExpectFailures(cases, std::size(cases));
 }

@@ -140,6 +140,27 @@ TEST(LoadBuilder, LoadCaseHoldsItsOwnLoadsWithTheirScale) {
             "*End Load Case\n");
 }
 
+// A load case that takes the base state alone is passed over: F stands in
+// S1's own list, as every load case of S1 is such, and G only in the load
+// case of S2 that names it.
+TEST(LoadBuilder, LoadCasesOfTheBaseStateAloneLeaveTheLoadsToTheStep) {
+  const char* steps = R"([{"name": "Initial"},
+      {"name": "S1", "procedure": "static", "loadCases": {"Base": {"baseStateOnly": true}}},
+      {"name": "S2", "procedure": "static",
+       "loadCases": {"Base": {"baseStateOnly": true}, "Own": {"loads": {"G": {"scale": 2}}}}}])";
+  EXPECT_EQ(LoadBlocks(R"({"F": {"type": "concentratedForce", "region": "Load", "createdIn": "S1",
+                               "component1": 4},
+                         "G": {"type": "concentratedForce", "region": "B-1.Tip",
+                               "createdIn": "S2", "component2": 3}})",
+                       steps),
+            "-- S1\n** LOADS\n** Name: F   Type: Concentrated force\n*Cload\nLoad, 1, 4.\n"
+            "** LOAD CASES\n*Load Case, name=Base\n*Boundary, op=NEW\n*End Load Case\n"
+            "-- S2\n** LOAD CASES\n*Load Case, name=Base\n*Boundary, op=NEW\n*End Load Case\n"
+            "*Load Case, name=Own\n*Boundary, op=NEW\n"
+            "** Name: G   Type: Concentrated force   Scale factor: 2\n*Cload\nB-1.Tip, 2, 6.\n"
+            "*End Load Case\n");
+}
+
 TEST(LoadBuilder, BoltLoadIsAForceOnlyByTheFirstMethod) {
   EXPECT_EQ(LoadBlocks(R"({"Force": {"type": "boltLoad", "region": "B-1.Edge", "createdIn": "S1",
                                    "method": "applyForce", "magnitude": 1000,
