@@ -6,6 +6,7 @@
 #include "model/amplitudes.h"
 #include "model/boundary_conditions.h"
 #include "model/datums.h"
+#include "model/fields.h"
 #include "model/loads.h"
 #include "model/materials.h"
 #include "model/mesh.h"
@@ -225,6 +226,9 @@ public:
     return boundaryConditions_;
   }
   const kprC_PropagatingContainer<kloC_Load>& loads() const { return loads_; }
+  const kprC_PropagatingContainer<kpfC_Field>& predefinedFields() const {
+    return predefinedFields_;
+  }
 
   template <class V> void Fields(V& v) {
     v({"parts", "the parts by name"}, parts_.parts_, cow_Btree<cow_String, ddb_Part>());
@@ -241,6 +245,9 @@ public:
       boundaryConditions_, kprC_PropagatingContainer<kbcC_BC>());
     v({"loads", "the loads by name, each with its state per step"}, loads_,
       kprC_PropagatingContainer<kloC_Load>());
+    v({"predefinedFields", "the predefined fields and initial conditions by name, each with its "
+                           "state per step"},
+      predefinedFields_, kprC_PropagatingContainer<kpfC_Field>());
     v({"fieldOutputRequests", "the field output requests by name"}, fieldOutputs_,
       kprC_PropagatingContainer<korC_FieldOutput>());
     v({"historyOutputRequests", "the history output requests by name"}, historyOutputs_,
@@ -276,6 +283,7 @@ public:
   kprC_PropagatingContainer<kbcC_BC> boundaryConditions_;
   ddb_DdbStepContainer steps_;
   kprC_PropagatingContainer<kloC_Load> loads_;
+  kprC_PropagatingContainer<kpfC_Field> predefinedFields_;
   kprC_PropagatingContainer<korC_FieldOutput> fieldOutputs_;
   kprC_PropagatingContainer<korC_HistoryOutput> historyOutputs_;
   /// Derived after loading: every datum under its id minus 1. Each part's

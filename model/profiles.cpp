@@ -31,3 +31,26 @@ cow_2DArray<double> kbpC_ArbitraryProfile::Points() const {
       points.Get(row + 1, column) = segments.ConstGet(row, column);
   return points;
 }
+
+int kbpC_TemperaturePointCount(const kbpC_BeamProfile& profile) {
+  switch (profile.DynTypeId()) {
+  case kbpC_LbeamType:
+    return 3;
+  case kbpC_RectangularType:
+  case kbpC_BoxType:
+  case kbpC_TbeamType:
+  case kbpC_TrapezoidalType:
+    return 4;
+  case kbpC_CircularType:
+  case kbpC_IbeamType:
+    return 5;
+  case kbpC_HexagonalType:
+    return 6;
+  case kbpC_PipeType:
+    return 8;
+  case kbpC_ArbitraryType:
+    return keydeck::RecordCast<kbpC_ArbitraryProfile>(profile).segments.Rows() + 1;
+  default:
+    return 1;
+  }
+}

@@ -284,6 +284,11 @@ public:
   std::array<double, 7> g{};
 };
 
+/// The number of points of the profile at which a temperature given by
+/// values holds: the corners and notable points of the shape, each point of
+/// an arbitrary section, one for a generalized section.
+int kbpC_TemperaturePointCount(const kbpC_BeamProfile& profile);
+
 namespace keydeck {
 
 /// The profile classes a model file can use.

@@ -114,12 +114,15 @@ public:
       boundaryConditions, cow_Btree<cow_String, klcC_ConditionEntry>());
     v({"loads", "the loads of the load case, by name"}, loads,
       cow_Btree<cow_String, klcC_ConditionEntry>());
+    v({"fields", "the predefined fields of the load case, by name"}, fields,
+      cow_Btree<cow_String, klcC_ConditionEntry>());
   }
 
   bool includeBaseState = false;
   bool baseStateOnly = false;
   cow_Btree<cow_String, klcC_ConditionEntry> boundaryConditions;
   cow_Btree<cow_String, klcC_ConditionEntry> loads;
+  cow_Btree<cow_String, klcC_ConditionEntry> fields;
 };
 
 /// A step of the model. The first step of a model is its initial step.

@@ -46,7 +46,7 @@ void DeriveOne(ddb_Model& model, kbcC_BC& bc, const std::string& path, LoadError
   CheckStates(model, bc, path, errors);
 }
 
-// The boundary conditions and loads that the load cases name must exist, and
+// The boundary conditions, loads and fields that the load cases name must exist, and
 // a load case that takes no loads of its own names none.
 void CheckLoadCases(std::string_view modelPath, const ddb_Model& model, LoadErrors& errors) {
   const kprC_StepContainer& steps = model.step().container();
@@ -65,6 +65,7 @@ void CheckLoadCases(std::string_view modelPath, const ddb_Model& model, LoadErro
       check(loadCase->boundaryConditions, model.boundaryConditions(), "boundaryConditions",
             "boundary condition");
       check(loadCase->loads, model.loads(), "loads", "load");
+      check(loadCase->fields, model.predefinedFields(), "fields", "predefined field");
       if (loadCase->baseStateOnly && !loadCase->loads.Empty())
         errors.Add(casePath + "/loads",
                    "a load case with \"baseStateOnly\" takes no loads of its own");

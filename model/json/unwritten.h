@@ -34,7 +34,6 @@ struct PendingFamily {
 
 inline constexpr PendingFamily PendingFamilies[] = {
     {Holder::Model, "fields", "fields"},
-    {Holder::Model, "predefinedFields", "predefined fields"},
     {Holder::Model, "interactions", "interactions"},
     {Holder::Model, "interactionProperties", "interaction properties"},
     {Holder::Model, "constraints", "constraints"},
