@@ -1,13 +1,13 @@
 #include "model/json/derive.h"
 
-#include "base/large_lists.h"
 #include "model/json/derive_boundary_conditions.h"
 #include "model/json/derive_fields.h"
 #include "model/json/derive_loads.h"
 #include "model/json/derive_orientations.h"
-#include "model/json/derive_output.h"
 #include "model/json/derive_sections.h"
+#include "model/json/derive_output.h"
 #include "model/json/json_text.h"
+#include "base/large_lists.h"
 #include "model/json/region_names.h"
 #include "model/propagation.h"
 
