@@ -287,7 +287,6 @@ TEST(Loader, StepMessages) {
 TEST(Loader, FamiliesNotSupportedYet) {
   const std::pair<const char*, const char*> modelKeys[] = {
       {"fields", "fields"},
-      {"predefinedFields", "predefined fields"},
       {"interactions", "interactions"},
       {"interactionProperties", "interaction properties"},
       {"constraints", "constraints"},
