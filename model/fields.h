@@ -10,8 +10,8 @@
 #include <array>
 #include <string_view>
 
-// Predefined fields: temperatures, field variables and initial velocities on
-// node sets, each kept once with its state per step. In the initial step a
+// Predefined fields: temperatures, field variables, pressure stresses and
+// initial velocities on node sets, each kept once with its state per step. In the initial step a
 // field is an initial condition; later steps change temperatures and field
 // variables in place. The file names the kind by its "type" word.
 
@@ -164,6 +164,24 @@ public:
   mdl_PropAttr<double> angularVelocity;
 };
 
+/// The state of a pressure stress: its value at the nodes and the amplitude
+/// it follows, or the results file that gives it.
+class kpfC_PressureStressState {
+public:
+  template <class V> void Fields(V& v) {
+    v({"amplitude", "the name of the amplitude the value follows"}, amplitude,
+      mdl_PropAttr<keydeck::DeckName>());
+    v({"magnitude", "the pressure stress at each node of the set"}, magnitude,
+      mdl_PropAttr<double>());
+    v({"file", "from a file: the results file of an earlier analysis"}, file,
+      mdl_PropAttr<cow_String>());
+  }
+
+  mdl_PropAttr<keydeck::DeckName> amplitude;
+  mdl_PropAttr<double> magnitude;
+  mdl_PropAttr<cow_String> file;
+};
+
 namespace keydeck {
 
 /// The common part of every field class: its kind, type id, copy and its
@@ -220,6 +238,21 @@ public:
   int number = 0;
 };
 
+/// An equivalent pressure stress at the nodes of a node set, for elements
+/// that read it: "*Pressure stress" in every step.
+class kpfC_PressureStress : public keydeck::FieldKind<kpfC_PressureStress, kpfC_PressureStressType,
+                                                      kpfC_PressureStressState> {
+public:
+  static constexpr const char* Description = "a pressure stress at each node of a node set";
+  template <class V> void Fields(V& v) {
+    FieldKind::Fields(v);
+    v({"distribution", "direct, userDefined or fromFile"}, distribution, kpfC_Direct);
+  }
+  bool Admits(kpfC_DistributionEnm d) const override {
+    return d == kpfC_Direct || d == kpfC_UserDefined || d == kpfC_FromFile;
+  }
+};
+
 /// An initial velocity of the nodes of a node set, along the axes or
 /// rotating about an axis through two points. It exists in the initial step
 /// alone.
@@ -247,7 +280,7 @@ namespace keydeck {
 /// The field classes a model file can use.
 template <> struct RecordKinds<kpfC_Field> {
   static constexpr std::string_view Field = "type";
-  using Types = KindList<kpfC_Temperature, kpfC_GeneralField, kpfC_Velocity>;
+  using Types = KindList<kpfC_Temperature, kpfC_GeneralField, kpfC_PressureStress, kpfC_Velocity>;
 };
 
 } // namespace keydeck

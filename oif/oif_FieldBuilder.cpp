@@ -5,6 +5,7 @@
 #include "oif/oif_GeneralField.h"
 #include "oif/oif_InitialConditions.h"
 #include "oif/oif_ModelInfo.h"
+#include "oif/oif_PressureStress.h"
 #include "oif/oif_SetName.h"
 
 #include <algorithm>
@@ -78,7 +79,9 @@ void oif_FieldBuilder::FieldCardDetails(const cow_String& name, const FieldHandl
   const cow_String setName =
       oif_SetName(field->region, *modelInfo).UniqueSetName(oif_SetName::AssemblyScope);
   const bool opMod = !opStatus_.OpNew(field->DynTypeId(), step);
-  if (IsInitialStep(step))
+  if (field->DynTypeId() == kpfC_PressureStress::TypeId())
+    AddStepDefinition(step, oif_PressureStress(field, step, opMod, setName), loadCase);
+  else if (IsInitialStep(step))
     AddStepDefinition(step,
                       oif_InitialConditions(field, step, setName, maxTempSize_, maxGenFieldSize_),
                       loadCase);

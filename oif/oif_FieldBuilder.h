@@ -8,7 +8,8 @@
 class oif_ModelInfo;
 
 /// Files the cards of the model's predefined fields: in the initial step
-/// "*Initial Conditions", in later steps "*Temperature" and "*Field", each
+/// "*Initial Conditions", in later steps "*Temperature" and "*Field", and
+/// "*Pressure stress" in any step, each
 /// under the block header "FIELDS" (or in the load cases of a step that has
 /// them) with a comment "Name: ...   Type: ...". A field is written where it
 /// is created, changed, deactivated or reset, and where its class restarts;

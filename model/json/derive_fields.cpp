@@ -59,16 +59,19 @@ void CheckAmplitude(const ddb_Model& model, const State& state, const std::strin
 
 // A field read from a file names it; an initial condition reads one step
 // and increment of it.
-void CheckFromFile(const ddb_Model& model, const kpfC_Field& field,
-                   const kpfC_ScalarFieldState& created, const std::string& path,
-                   LoadErrors& errors) {
+template <class State>
+void CheckFromFile(const ddb_Model& model, const kpfC_Field& field, const State& created,
+                   const std::string& path, LoadErrors& errors) {
   if (field.distribution != kpfC_FromFile && field.distribution != kpfC_FromFileAndUser)
     return;
   if (!created.file.IsActive() || created.file.ConstGet().Empty())
     errors.Add(path + "/file", LabelOf(field) + " from a file needs \"file\"");
-  if (IsInitialStep(model, field.createdIn) &&
-      (!created.beginStep.IsActive() || !created.beginIncrement.IsActive()))
-    errors.Add(path, "an initial condition from a file needs \"beginStep\" and \"beginIncrement\"");
+  if constexpr (requires { created.beginStep; }) {
+    if (IsInitialStep(model, field.createdIn) &&
+        (!created.beginStep.IsActive() || !created.beginIncrement.IsActive()))
+      errors.Add(path,
+                 "an initial condition from a file needs \"beginStep\" and \"beginIncrement\"");
+  }
 }
 
 template <class K>
@@ -78,10 +81,8 @@ void CheckKind(const ddb_Model& model, const K& field, const std::string& path,
     if (field.number < 1)
       errors.Add(path + "/number", "the number of a field variable is 1 or more");
   }
-  if constexpr (std::is_same_v<std::remove_cvref_t<decltype(field.created)>,
-                               kpfC_ScalarFieldState>) {
+  if constexpr (requires { field.created.file; })
     CheckFromFile(model, field, field.created, path, errors);
-  }
   if constexpr (std::is_same_v<K, kpfC_Velocity>) {
     if (!IsInitialStep(model, field.createdIn))
       errors.Add(path + "/createdIn", "a velocity is an initial condition: it is created in the "

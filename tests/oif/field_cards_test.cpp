@@ -173,6 +173,21 @@ TEST(FieldBuilder, VelocitiesStandInTheInitialStepAlone) {
             "-- S1\n");
 }
 
+TEST(FieldBuilder, PressureStressHasOneCardInEveryStep) {
+  EXPECT_EQ(FieldBlocks(R"({
+      "File": {"type": "pressureStress", "region": "B-1.Tip", "createdIn": "S1",
+               "distribution": "fromFile", "file": "soil.fil", "magnitude": 0},
+      "P": {"type": "pressureStress", "region": "B-1.Tip", "createdIn": "Initial",
+            "magnitude": 5, "steps": {"S2": {"magnitude": 6, "amplitude": "Ramp"},
+                                      "S3": {"status": "deactivated"}}}})"),
+            "** FIELDS\n** Name: P   Type: Pressure stress\n*Pressure stress\nB-1.Tip, 5.\n"
+            "-- S1\n** FIELDS\n** Name: File   Type: Pressure stress\n"
+            "*Pressure stress, file=soil.fil\nB-1.Tip, 0.\n"
+            "-- S2\n** FIELDS\n** Name: P   Type: Pressure stress\n"
+            "*Pressure stress, amplitude=Ramp\nB-1.Tip, 6.\n"
+            "-- S3\n** FIELDS\n** Name: P   Type: Pressure stress\n*Pressure stress, op=NEW\n");
+}
+
 TEST(FieldBuilder, AFieldInALoadCaseCarriesItsScale) {
   // A step with load cases holds its fields in them alone: "Out" is in none.
   const std::string deck = DeckWith(R"({
