@@ -128,6 +128,29 @@ TEST(FieldBuilder, FileNamesLoseOnlyAFilEnding) {
             "** FIELDS\n** Name: T   Type: Temperature\n*Temperature, file=.fil, estep=2\n");
 }
 
+TEST(FieldBuilder, StepCardsByUserAndFromAFile) {
+  // The reset of "U" restarts the field variables in S2: "M", propagated,
+  // gets ", op=NEW" there like the reset card.
+  EXPECT_EQ(FieldBlocks(R"({
+      "A": {"type": "temperature", "region": "B-1.Tip", "createdIn": "S1",
+            "distribution": "fromFileAndUser", "file": "heat.Fil", "beginIncrement": 3,
+            "interpolation": "midside"},
+      "M": {"type": "field", "number": 5, "region": "B-1.Tip", "createdIn": "S1",
+            "distribution": "fromFile", "file": "m.fil", "beginStep": 0,
+            "interpolation": "interpolate", "absoluteExteriorTolerance": 0},
+      "U": {"type": "field", "number": 6, "region": "B-1.Tip", "createdIn": "S1",
+            "distribution": "userDefined", "steps": {"S2": {"status": "fieldReset"}}}})",
+                        R"([{"name": "Initial"}, {"name": "S1", "procedure": "static"},
+                            {"name": "S2", "procedure": "static"}])"),
+            "** FIELDS\n** Name: A   Type: Temperature\n"
+            "*Temperature, user, file=heat, binc=3, midside\n"
+            "** Name: M   Type: Field variable\n*Field, number=5, file=m, interpolate\n"
+            "** Name: U   Type: Field variable\n*Field, number=6, user\nB-1.Tip\n"
+            "-- S2\n** FIELDS\n** Name: M   Type: Field variable\n"
+            "*Field, op=NEW, number=5, file=m, interpolate\n"
+            "** Name: U   Type: Field variable\n*Field, op=NEW\n");
+}
+
 TEST(FieldBuilder, InitialConditionsFromAFileAndByUser) {
   EXPECT_EQ(FieldBlocks(R"({
       "F": {"type": "field", "number": 3, "region": "B-1.Tip", "createdIn": "Initial",
