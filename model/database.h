@@ -226,9 +226,6 @@ public:
     return boundaryConditions_;
   }
   const kprC_PropagatingContainer<kloC_Load>& loads() const { return loads_; }
-  const kprC_PropagatingContainer<kpfC_Field>& predefinedFields() const {
-    return predefinedFields_;
-  }
 
   template <class V> void Fields(V& v) {
     v({"parts", "the parts by name"}, parts_.parts_, cow_Btree<cow_String, ddb_Part>());

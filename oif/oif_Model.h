@@ -25,7 +25,7 @@ public:
   /// The loads, in ascending order of name.
   const kprC_PropagatingContainer<kloC_Load>& Loads() const { return model_.loads(); }
   /// The predefined fields, in ascending order of name.
-  const kprC_PropagatingContainer<kpfC_Field>& Fields() const { return model_.predefinedFields(); }
+  const kprC_PropagatingContainer<kpfC_Field>& Fields() const { return model_.predefinedFields_; }
   /// The field and the history output requests, in ascending order of name.
   const kprC_PropagatingContainer<korC_FieldOutput>& FieldOutputs() const {
     return model_.fieldOutputs_;

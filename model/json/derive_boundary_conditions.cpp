@@ -65,7 +65,7 @@ void CheckLoadCases(std::string_view modelPath, const ddb_Model& model, LoadErro
       check(loadCase->boundaryConditions, model.boundaryConditions(), "boundaryConditions",
             "boundary condition");
       check(loadCase->loads, model.loads(), "loads", "load");
-      check(loadCase->fields, model.predefinedFields(), "fields", "predefined field");
+      check(loadCase->fields, model.predefinedFields_, "fields", "predefined field");
       if (loadCase->baseStateOnly && !loadCase->loads.Empty())
         errors.Add(casePath + "/loads",
                    "a load case with \"baseStateOnly\" takes no loads of its own");
