@@ -5,6 +5,7 @@
 #include "base/mdl_MapString2ObjCow.h"
 #include "model/amplitudes.h"
 #include "model/boundary_conditions.h"
+#include "model/constraints.h"
 #include "model/datums.h"
 #include "model/fields.h"
 #include "model/loads.h"
@@ -242,6 +243,8 @@ public:
       boundaryConditions_, kprC_PropagatingContainer<kbcC_BC>());
     v({"loads", "the loads by name, each with its state per step"}, loads_,
       kprC_PropagatingContainer<kloC_Load>());
+    v({"constraints", "the constraints by name: ties, couplings, rigid bodies and the like"},
+      constraints_, mdl_MapString2ObjCow<kcoC_Constraint>());
     v({"predefinedFields", "the predefined fields and initial conditions by name, each with its "
                            "state per step"},
       predefinedFields_, kprC_PropagatingContainer<kpfC_Field>());
@@ -280,6 +283,7 @@ public:
   kprC_PropagatingContainer<kbcC_BC> boundaryConditions_;
   ddb_DdbStepContainer steps_;
   kprC_PropagatingContainer<kloC_Load> loads_;
+  mdl_MapString2ObjCow<kcoC_Constraint> constraints_;
   kprC_PropagatingContainer<kpfC_Field> predefinedFields_;
   kprC_PropagatingContainer<korC_FieldOutput> fieldOutputs_;
   kprC_PropagatingContainer<korC_HistoryOutput> historyOutputs_;

@@ -36,8 +36,8 @@ std::FILE* OpenNewFile(const char* name) {
 oif_Builder::oif_Builder(oif_ModelInfo& info)
     : jobKeywords_(info), instance_(info), material_(info), part_(info), region_(info), step_(info),
       partAttributes_(info), amplitude_(info), transform_(info), boundaryCondition_(info),
-      load_(info), field_(info), output_(info), final_(info), v6Format_(info.V6Format()),
-      model_(&keydeck::FacadeOf(info.Model())) {}
+      load_(info), field_(info), constraint_(info), output_(info), final_(info),
+      v6Format_(info.V6Format()), model_(&keydeck::FacadeOf(info.Model())) {}
 
 bool oif_Builder::WriteInputFile(const cow_String& fileName, keydeck::DeckPhaseTimes* times) {
   std::FILE* const file = OpenNewFile(fileName.CStr());
@@ -72,6 +72,7 @@ void oif_Builder::BuildAll() {
   partAttributes_.Build();
   amplitude_.Build();
   transform_.Build();
+  constraint_.Build();
   boundaryCondition_.Build();
   load_.Build();
   field_.Build();
@@ -84,7 +85,7 @@ oif_Builder::BuilderList oif_Builder::WritingList() const {
   BuilderList builders;
   for (const qkw_BuilderComponent* builder : std::initializer_list<const qkw_BuilderComponent*>{
            &part_, &instance_, &step_, &region_, &partAttributes_, &amplitude_, &material_,
-           &transform_, &boundaryCondition_, &load_, &field_, &output_, &final_})
+           &transform_, &constraint_, &boundaryCondition_, &load_, &field_, &output_, &final_})
     builders.Append(cow_ArrayCOW<qkw_BuilderComponent>(*builder));
   return builders;
 }

@@ -5,6 +5,7 @@
 #include "base/cow_String.h"
 #include "oif/oif_AmplitudeBuilder.h"
 #include "oif/oif_BoundaryConditionBuilder.h"
+#include "oif/oif_ConstraintBuilder.h"
 #include "oif/oif_FieldBuilder.h"
 #include "oif/oif_FinalBuilder.h"
 #include "oif/oif_InstanceBuilder.h"
@@ -82,6 +83,7 @@ private:
   oif_BoundaryConditionBuilder boundaryCondition_;
   oif_LoadBuilder load_;
   oif_FieldBuilder field_;
+  oif_ConstraintBuilder constraint_;
   oif_OutputRequestBuilder output_;
   oif_FinalBuilder final_;
   bool v6Format_;

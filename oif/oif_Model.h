@@ -24,6 +24,8 @@ public:
   const kprC_PropagatingContainer<kbcC_BC>& BCs() const { return model_.boundaryConditions(); }
   /// The loads, in ascending order of name.
   const kprC_PropagatingContainer<kloC_Load>& Loads() const { return model_.loads(); }
+  /// The constraints, in ascending order of name.
+  const mdl_MapString2ObjCow<kcoC_Constraint>& Constraints() const { return model_.constraints_; }
   /// The predefined fields, in ascending order of name.
   const kprC_PropagatingContainer<kpfC_Field>& Fields() const { return model_.predefinedFields_; }
   /// The field and the history output requests, in ascending order of name.

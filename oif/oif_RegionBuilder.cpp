@@ -1,10 +1,12 @@
 #include "oif/oif_RegionBuilder.h"
 
+#include "model/constraints.h"
 #include "model/database.h"
 #include "model/regions.h"
 #include "oif/oif_Elset.h"
 #include "oif/oif_ModelInfo.h"
 #include "oif/oif_Nset.h"
+#include "oif/oif_SetName.h"
 #include "oif/oif_Surface.h"
 
 oif_RegionBuilder::oif_RegionBuilder(oif_ModelInfo& info) : qkw_BuilderComponent(info) {}
@@ -17,6 +19,7 @@ void oif_RegionBuilder::Build() {
       CreateInstanceRegions(keydeck::RecordCast<ddb_PartInstance>(*instance));
   }
   CreateAssemblyRegions();
+  CreateContactNodeSets();
 }
 
 void oif_RegionBuilder::CreateInstanceRegions(const ddb_PartInstance& instance) {
@@ -44,6 +47,19 @@ void oif_RegionBuilder::CreateAssemblyRegions() {
   for (const ddb_Set& set : assembly.set())
     if (set.setType() == res_FacetSet)
       AddAssemblyDefinition(oif_Surface(set.set(), assembly));
+}
+
+void oif_RegionBuilder::CreateContactNodeSets() {
+  cow_List<cow_String> surfacesDone;
+  for (const auto& [name, constraint] : keydeck::FacadeOf(*model).Constraints()) { // name order
+    for (const rgnC_Region& region : constraint->NodeSurfaceRegions()) {
+      const oif_SetName names(region, *modelInfo);
+      const cow_String surfaceName = names.UniqueSurfaceName(oif_SetName::AssemblyScope);
+      if (surfacesDone.AppendUnlessMember(surfaceName))
+        AddAssemblyDefinition(
+            oif_Surface(*modelInfo, surfaceName, names.UniqueSetName(oif_SetName::AssemblyScope)));
+    }
+  }
 }
 
 void oif_RegionBuilder::CreateAssemblySet(const ddb_Assembly& assembly, const rgnC_SetData& data) {

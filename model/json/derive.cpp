@@ -1,6 +1,7 @@
 #include "model/json/derive.h"
 
 #include "model/json/derive_boundary_conditions.h"
+#include "model/json/derive_constraints.h"
 #include "model/json/derive_fields.h"
 #include "model/json/derive_loads.h"
 #include "model/json/derive_orientations.h"
@@ -910,6 +911,7 @@ void DeriveModel(std::string_view modelPath, ddb_Model& model, LoadErrors& error
   DeriveStepStates(modelPath, model, errors);
   DeriveBoundaryConditions(modelPath, model, errors);
   DeriveLoads(modelPath, model, errors);
+  DeriveConstraints(modelPath, model, errors);
   DeriveFields(modelPath, model, errors);
   DeriveOutputRequests(modelPath, model, errors);
 }

@@ -36,7 +36,6 @@ inline constexpr PendingFamily PendingFamilies[] = {
     {Holder::Model, "fields", "fields"},
     {Holder::Model, "interactions", "interactions"},
     {Holder::Model, "interactionProperties", "interaction properties"},
-    {Holder::Model, "constraints", "constraints"},
     {Holder::Model, "connectorSections", "connector sections"},
     // What an analysis step writes after its output requests.
     {Holder::Step, "controls", "solution controls"},

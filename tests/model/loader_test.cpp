@@ -289,7 +289,6 @@ TEST(Loader, FamiliesNotSupportedYet) {
       {"fields", "fields"},
       {"interactions", "interactions"},
       {"interactionProperties", "interaction properties"},
-      {"constraints", "constraints"},
       {"connectorSections", "connector sections"}};
   for (const auto& [key, words] : modelKeys) {
     SCOPED_TRACE(key);

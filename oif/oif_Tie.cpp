@@ -1,0 +1,40 @@
+#include "oif/oif_Tie.h"
+
+#include "base/utl_Stream.h"
+#include "oif/oif_SetName.h"
+#include "qkw/qkw_QuorvexName.h"
+
+oif_Tie::oif_Tie(const cow_String& name, const kcoC_Tie& tie, const qkw_ModelInfo& info)
+    : name_(name), tie_(tie),
+      mainName_(oif_SetName(tie.master.region, info).UniqueSurfaceName(oif_SetName::AssemblyScope)),
+      secondaryName_(
+          oif_SetName(tie.slave.region, info).UniqueSurfaceName(oif_SetName::AssemblyScope)) {}
+
+qkw_Keyword* oif_Tie::Copy() const { return new oif_Tie(*this); }
+
+void oif_Tie::Write(utl_Stream& s) const {
+  s << "*Tie, name=" << qkw_QuorvexName(name_, false);
+  s << (tie_.adjust ? ", adjust=yes" : ", adjust=no");
+  if (tie_.positionTolerance != keydeck::NotGivenDouble) {
+    s << ", position tolerance=" << tie_.positionTolerance;
+    s.OptionalLineBreak();
+  }
+  if (!tie_.tieRotation) {
+    s << ", no rotation";
+    s.OptionalLineBreak();
+  }
+  if (tie_.constraintRatio != keydeck::NotGivenDouble) {
+    s << ", constraint ratio=" << tie_.constraintRatio;
+    s.OptionalLineBreak();
+  }
+  if (tie_.tieType != kcoC_TieSolverDefault) {
+    s << ", type=";
+    s.Print(keydeck::FindEnumEntry(tie_.tieType)->deckText);
+    s.OptionalLineBreak();
+  }
+  if (!tie_.thickness) {
+    s << ", no thickness";
+    s.OptionalLineBreak();
+  }
+  s << endl << secondaryName_ << ", " << mainName_ << endl;
+}
