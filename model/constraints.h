@@ -2,6 +2,7 @@
 
 #include "base/cow_List.h"
 #include "base/cow_String.h"
+#include "model/datums.h"
 #include "model/records.h"
 #include "model/regions.h"
 
@@ -134,12 +135,18 @@ public:
     v({"coefficient", "the coefficient of the term"}, coefficient);
     v({"set", "the node set: \"Set\" of the assembly or \"Instance.Set\""}, setName);
     v({"dof", "the degree of freedom, 1 to 6"}, dof);
+    v({"csys", "the datum system of the degree of freedom, \"Datum\" of the assembly or "
+               "\"Instance.Datum\"; the global system when left out"},
+      csysName, keydeck::DeckName());
   }
 
   double coefficient = 0;
   keydeck::DeckName setName;
   int dof = 1;
-  rgnC_Region region; ///< derived after loading from `setName`
+  keydeck::DeckName csysName;
+  // Derived after loading:
+  rgnC_Region region; ///< from `setName`
+  dtmC_DatumRef csys; ///< from `csysName`; the nodes of the set get a "*Transform" to it
 };
 
 /// A linear equation between degrees of freedom: the sum of its terms is 0.
@@ -209,6 +216,9 @@ public:
     v({"ur3", "false to leave the third rotation free"}, ur3, true);
     v({"weighting", "distributing: how the surface nodes are weighted"}, weightingMethod,
       kcoC_UniformWeighting);
+    v({"orientation", "the datum system of the degrees of freedom, \"Datum\" of the assembly "
+                      "or \"Instance.Datum\"; the global system when left out"},
+      orientationName, keydeck::DeckName());
   }
 
   keydeck::ConstraintRegion surface;
@@ -217,6 +227,8 @@ public:
   kcoC_CouplingKindEnm couplingType = kcoC_Kinematic;
   bool u1 = true, u2 = true, u3 = true, ur1 = true, ur2 = true, ur3 = true;
   kcoC_WeightingEnm weightingMethod = kcoC_UniformWeighting;
+  keydeck::DeckName orientationName;
+  dtmC_DatumRef orientation; ///< derived after loading from `orientationName`
 };
 
 /// Makes a region move as one rigid body with its reference node.

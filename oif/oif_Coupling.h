@@ -19,4 +19,5 @@ private:
   double influenceRadius_;
   cow_String refNodeName_;
   cow_String surfaceName_;
+  cow_String orientationName_; ///< empty for the global system
 };

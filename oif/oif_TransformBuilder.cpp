@@ -1,6 +1,7 @@
 #include "oif/oif_TransformBuilder.h"
 
 #include "model/boundary_conditions.h"
+#include "model/constraints.h"
 #include "oif/oif_ModelInfo.h"
 #include "oif/oif_Nset.h"
 #include "oif/oif_Orientation.h"
@@ -14,18 +15,17 @@ qkw_BuilderComponent* oif_TransformBuilder::Copy() const { return new oif_Transf
 void oif_TransformBuilder::Build() {
   CollectCsysRegionsList();
   AddTransforms();
-  // The "*Orientation" cards of connector orientations and couplings (each
-  // datum and additional rotation once, by `GetOrientationName`) are filed
-  // here, ahead of those of inertia relief loads, when those families join
-  // the model.
+  // The "*Orientation" cards of connector orientations (each datum and
+  // additional rotation once, by `GetOrientationName`) are filed here, ahead
+  // of those of couplings, when that family joins the model.
+  AddCouplingOrientations();
   AddInertiaReliefOrientations();
 }
 
 // The objects that refer to a datum, in this order: boundary conditions by
 // key, unsuppressed, with a datum or of the symmetry kind (collected even
 // without one); concentrated forces and moments by key, unsuppressed, with a
-// datum; then, in constraint name order, each equation term with a datum, as
-// the assembly's node set of the term, when constraints join the model.
+// datum; then, in constraint name order, each equation term with a datum.
 void oif_TransformBuilder::CollectCsysRegionsList() {
   for (const auto& [name, bc] : keydeck::FacadeOf(*model).BCs())
     if (!bc->IsSuppressed() && (!bc->csys.IsNullRef() || bc->DynTypeId() == kbcC_SymmetryType))
@@ -40,6 +40,13 @@ void oif_TransformBuilder::CollectCsysRegionsList() {
                                     : keydeck::RecordCast<kloC_ConcentratedForce>(*load).csys;
     if (!csys.IsNullRef())
       AppendCsysRegion(load->region, csys);
+  }
+  for (const auto& [name, constraint] : keydeck::FacadeOf(*model).Constraints()) { // name order
+    if (constraint->DynTypeId() != kcoC_Equation::TypeId())
+      continue;
+    for (const kcoC_EquationTerm& term : keydeck::RecordCast<kcoC_Equation>(*constraint).terms)
+      if (!term.csys.IsNullRef())
+        AppendCsysRegion(term.region, term.csys);
   }
 }
 
@@ -80,17 +87,24 @@ cow_String oif_TransformBuilder::ConstGetDatumName(const dtmC_DatumRef& datum) c
   return "_T-" + oif_SetName::Unquote(modelInfo->GetOrientationName(datum, 0.0, ""));
 }
 
+void oif_TransformBuilder::AddCouplingOrientations() {
+  for (const auto& [name, constraint] : keydeck::FacadeOf(*model).Constraints()) // name order
+    if (constraint->DynTypeId() == kcoC_Coupling::TypeId())
+      AddOrientation(keydeck::RecordCast<kcoC_Coupling>(*constraint).orientation);
+}
+
 void oif_TransformBuilder::AddInertiaReliefOrientations() {
-  const ddb_Model& database = keydeck::FacadeOf(*model).Model();
-  for (const auto& [name, load] : keydeck::FacadeOf(*model).Loads()) { // name order
-    if (load->IsSuppressed() || load->DynTypeId() != kloC_InertiaRelief::TypeId())
-      continue;
-    const dtmC_DatumRef& csys = keydeck::RecordCast<kloC_InertiaRelief>(*load).csys;
-    if (csys.IsNullRef())
-      continue;
-    const cow_String orientation = modelInfo->GetOrientationName(csys, 0.0, "");
-    if (orientationNames_.AppendUnlessMember(orientation))
-      AddAssemblyDefinition(oif_Orientation(database, csys, orientation, /*withRotationLine=*/true,
-                                            0.0, ptoC_MaterialOrientation::Axis1));
-  }
+  for (const auto& [name, load] : keydeck::FacadeOf(*model).Loads()) // name order
+    if (!load->IsSuppressed() && load->DynTypeId() == kloC_InertiaRelief::TypeId())
+      AddOrientation(keydeck::RecordCast<kloC_InertiaRelief>(*load).csys);
+}
+
+void oif_TransformBuilder::AddOrientation(const dtmC_DatumRef& csys) {
+  if (csys.IsNullRef())
+    return;
+  const cow_String orientation = modelInfo->GetOrientationName(csys, 0.0, "");
+  if (orientationNames_.AppendUnlessMember(orientation))
+    AddAssemblyDefinition(oif_Orientation(keydeck::FacadeOf(*model).Model(), csys, orientation,
+                                          /*withRotationLine=*/true, 0.0,
+                                          ptoC_MaterialOrientation::Axis1));
 }

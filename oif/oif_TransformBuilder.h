@@ -25,8 +25,13 @@ protected:
 
 private:
   void AddTransforms();
-  /// The "*Orientation" of each inertia relief load's datum, once per name.
+  /// The "*Orientation" of each coupling's datum, then of each inertia
+  /// relief load's datum, once per name.
+  void AddCouplingOrientations();
   void AddInertiaReliefOrientations();
+  /// The "*Orientation" card of a datum without an additional rotation,
+  /// once per name; nothing for a null datum.
+  void AddOrientation(const dtmC_DatumRef& csys);
   /// The smallest index whose datum is the datum of `index`.
   int FirstUserOfDatum(int index) const;
   cow_String ConstGetDatumName(const dtmC_DatumRef& datum) const;

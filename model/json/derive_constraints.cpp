@@ -55,6 +55,12 @@ public:
     field.region = std::move(region);
   }
 
+  /// The datum system named in the field `key`, when one is named.
+  void Datum(const DeckName& name, dtmC_DatumRef& datum, const char* key) const {
+    if (!name.Empty())
+      datum = ResolveDatum(model_, name.View(), path_ + "/" + key, errors_);
+  }
+
   void Positive(double value, const char* key, const char* what) const {
     if (value != NotGivenDouble && !(value > 0))
       errors_.Add(path_ + "/" + key, std::string(what) + " must be above 0");
@@ -85,6 +91,7 @@ void Derive(kcoC_Coupling& coupling, const RegionDeriver& derive) {
   derive(coupling.refPoint, "referenceNode", Node, "the reference node of a coupling");
   derive(coupling.surface, "surface", Surface | Node, "the coupled region");
   derive.Positive(coupling.influenceRadius, "influenceRadius", "the influence radius");
+  derive.Datum(coupling.orientationName, coupling.orientation, "orientation");
   // No degree of freedom would write the bare card, which means all six.
   if (!(coupling.u1 || coupling.u2 || coupling.u3 || coupling.ur1 || coupling.ur2 || coupling.ur3))
     derive.Fault("u1", "a coupling needs at least one degree of freedom");
@@ -107,6 +114,7 @@ void Derive(kcoC_Equation& equation, const ddb_Model& model, const std::string& 
     ConstraintRegion set{term.setName, {}};
     derive(set, "set", Node, "the set of an equation term");
     term.region = std::move(set.region);
+    derive.Datum(term.csysName, term.csys, "csys");
     if (term.dof < 1 || term.dof > 6)
       derive.Fault("dof", "the degree of freedom must be 1 to 6");
     if (i == 0 && term.coefficient == 0)

@@ -66,6 +66,14 @@ TEST_F(ConstraintsCommand, RefusesWhatTheModelCannotCarry) {
       {R"({"C": {"type": "coupling", "referenceNode": "P-1.Tip", "surface": "P-1.Top",
                  "weighting": "quartic"}})",
        "models/M/constraints/C/weighting:"},
+      {R"({"C": {"type": "coupling", "referenceNode": "P-1.Tip", "surface": "P-1.Top",
+                 "orientation": "Skew"}})",
+       "models/M/constraints/C/orientation: no datum \"Skew\" in the assembly or its "
+       "instances\n"},
+      {R"({"C": {"type": "equation", "terms": [{"coefficient": 1, "set": "P-1.Tip", "dof": 1,
+                                               "csys": "P-1.Skew"}]}})",
+       "models/M/constraints/C/terms/0/csys: no datum \"P-1.Skew\" in the assembly or its "
+       "instances\n"},
       {R"({"C": {"type": "rigidBody", "referenceNode": "P-1.Tip", "elset": "P-1.Top"}})",
        "models/M/constraints/C/elset: \"P-1.Top\" is a surface; the elements of a rigid body "
        "must be an element set\n"},
