@@ -12,8 +12,7 @@ void AppendIfNodeSet(const rgnC_Region& region, cow_List<rgnC_Region>& out) {
 } // namespace
 
 cow_List<rgnC_Region> kcoC_Tie::NodeSurfaceRegions() const {
-  cow_List<rgnC_Region> regions;
-  AppendIfNodeSet(master.region, regions);
+  cow_List<rgnC_Region> regions; // the main region is always a surface
   AppendIfNodeSet(slave.region, regions);
   return regions;
 }
