@@ -1,7 +1,7 @@
 #include "oif/oif_Distributing.h"
 
 #include "base/utl_Stream.h"
-#include "oif/oif_Kinematic.h"
+#include "oif/oif_ConstraintCards.h"
 
 qkw_Keyword* oif_Distributing::Copy() const { return new oif_Distributing(*this); }
 

@@ -14,11 +14,3 @@ public:
 private:
   kcoC_Coupling coupling_;
 };
-
-namespace keydeck {
-
-/// The data lines of the coupled degrees of freedom, "1, 1" to "6, 6"; none
-/// when all six are coupled, which is what the bare card means.
-void WriteCouplingDofs(utl_Stream& s, const kcoC_Coupling& coupling);
-
-} // namespace keydeck

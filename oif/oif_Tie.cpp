@@ -1,6 +1,7 @@
 #include "oif/oif_Tie.h"
 
 #include "base/utl_Stream.h"
+#include "oif/oif_ConstraintCards.h"
 #include "oif/oif_SetName.h"
 #include "qkw/qkw_QuorvexName.h"
 
@@ -12,30 +13,18 @@ oif_Tie::oif_Tie(const cow_String& name, const kcoC_Tie& tie, const qkw_ModelInf
 
 qkw_Keyword* oif_Tie::Copy() const { return new oif_Tie(*this); }
 
-namespace {
-
-// ", " then a mark where the line may break, then the option, so that a
-// broken line ends in "," and goes on with the option.
-utl_Stream& Option(utl_Stream& s, const char* option) {
-  s << ", ";
-  s.OptionalLineBreak();
-  return s << option;
-}
-
-} // namespace
-
 void oif_Tie::Write(utl_Stream& s) const {
   s << "*Tie, name=" << qkw_QuorvexName(name_, false);
   s << (tie_.adjust ? ", adjust=yes" : ", adjust=no");
   if (tie_.positionTolerance != keydeck::NotGivenDouble)
-    Option(s, "position tolerance=") << tie_.positionTolerance;
+    keydeck::WriteBreakableOption(s, "position tolerance=") << tie_.positionTolerance;
   if (!tie_.tieRotation)
-    Option(s, "no rotation");
+    keydeck::WriteBreakableOption(s, "no rotation");
   if (tie_.constraintRatio != keydeck::NotGivenDouble)
-    Option(s, "constraint ratio=") << tie_.constraintRatio;
+    keydeck::WriteBreakableOption(s, "constraint ratio=") << tie_.constraintRatio;
   if (tie_.tieType != kcoC_TieSolverDefault)
-    Option(s, "type=").Print(keydeck::FindEnumEntry(tie_.tieType)->deckText);
+    keydeck::WriteBreakableOption(s, "type=").Print(keydeck::FindEnumEntry(tie_.tieType)->deckText);
   if (!tie_.thickness)
-    Option(s, "no thickness");
+    keydeck::WriteBreakableOption(s, "no thickness");
   s << endl << secondaryName_ << ", " << mainName_ << endl;
 }
