@@ -1,13 +1,13 @@
 #include "model/json/derive.h"
 
+#include "base/large_lists.h"
 #include "model/json/derive_boundary_conditions.h"
 #include "model/json/derive_fields.h"
 #include "model/json/derive_loads.h"
 #include "model/json/derive_orientations.h"
-#include "model/json/derive_sections.h"
 #include "model/json/derive_output.h"
+#include "model/json/derive_sections.h"
 #include "model/json/json_text.h"
-#include "base/large_lists.h"
 #include "model/json/region_names.h"
 #include "model/propagation.h"
 
@@ -800,6 +800,47 @@ void DeriveStepRegions(std::string_view modelPath, ddb_Model& model, LoadErrors&
   }
 }
 
+// A count of a step's request that the solver takes only from `lowest` up.
+void CheckAtLeast(int value, int lowest, const std::string& path, const char* what,
+                  LoadErrors& errors) {
+  if (value < lowest)
+    errors.Add(path, std::string(what) + " must be " + std::to_string(lowest) + " or more, found " +
+                         std::to_string(value));
+}
+
+// The restart, monitor and print of each analysis step: their counts, and
+// the monitored node set found by its region name.
+void DeriveStepRequests(std::string_view modelPath, ddb_Model& model, LoadErrors& errors) {
+  kprC_StepContainer& steps = model.steps_.steps;
+  for (int i = 1; i < steps.Size(); ++i) {
+    kprC_AnalysisStep& step = RecordCast<kprC_AnalysisStep>(steps.GetStep(i));
+    const std::string path = std::string(modelPath) + "/steps/" + std::to_string(i);
+    if (step.restart) {
+      CheckAtLeast(step.restart->frequency, 0, path + "/restart/every",
+                   "the increments between writes", errors);
+      CheckAtLeast(step.restart->numberInterval, 0, path + "/restart/intervals", "the intervals",
+                   errors);
+    }
+    if (step.explicitRestart)
+      CheckAtLeast(step.explicitRestart->numberInterval, 1, path + "/restart/intervals",
+                   "the intervals", errors);
+    if (step.print)
+      CheckAtLeast(step.print->frequency, 0, path + "/diagnosticPrint/every",
+                   "the increments between prints", errors);
+    if (step.monitor)
+      CheckAtLeast(step.monitor->frequency, 1, path + "/monitor/every",
+                   "the increments between reports", errors);
+    // The record's own accessor picks the solver's class; the region is derived here.
+    auto* monitor = const_cast<kprC_MonitorBase*>(step.Monitor());
+    if (monitor == nullptr)
+      continue;
+    if (monitor->dof < 1 || monitor->dof > 30)
+      errors.Add(path + "/monitor/dof",
+                 "degree of freedom " + std::to_string(monitor->dof) + " is outside 1 to 30");
+    monitor->region = ResolveRegion(model, monitor->node.View(), path + "/monitor/node", errors);
+  }
+}
+
 // The deck joins an instance and its set with a dot and quotes each piece by
 // itself, so a dot inside a name would read as that join: a set "x.y" of the
 // assembly would be set "y" of instance "x". Such names are refused.
@@ -905,6 +946,7 @@ void DeriveModel(std::string_view modelPath, ddb_Model& model, LoadErrors& error
   DeriveAssemblySets(modelPath, model, partLabels, errors);
   DeriveDatumsAndOrientations(modelPath, model, errors);
   DeriveStepRegions(modelPath, model, errors);
+  DeriveStepRequests(modelPath, model, errors);
   CheckSections(modelPath, model, errors);
   CheckAmplitudes(modelPath, model, errors);
   DeriveStepStates(modelPath, model, errors);

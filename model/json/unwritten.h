@@ -41,9 +41,6 @@ inline constexpr PendingFamily PendingFamilies[] = {
     // What an analysis step writes after its output requests.
     {Holder::Step, "controls", "solution controls"},
     {Holder::Step, "solverControls", "solver controls"},
-    {Holder::Step, "restart", "restart requests"},
-    {Holder::Step, "monitor", "monitors"},
-    {Holder::Step, "diagnosticPrint", "diagnostic prints"},
     {Holder::Assembly, "nodes", "assembly nodes"},
     {Holder::Assembly, "elements", "assembly elements"},
     {Holder::Assembly, "connectors", "connectors"},
