@@ -5,6 +5,7 @@
 #include "base/cow_List.h"
 #include "base/cow_String.h"
 #include "base/mdl_MapString2ObjCow.h"
+#include "model/mass_scaling.h"
 #include "model/records.h"
 #include "model/regions.h"
 #include "model/step_requests.h"
@@ -529,6 +530,7 @@ struct kprC_ExplicitOptions {
   double scaleFactor = 1.0;
   double linearBulkViscosity = 0.06;
   double quadBulkViscosity = 1.2;
+  cow_List<kprC_MassScaling> massScaling;
 
   template <class V> void ExplicitFields(V& v) {
     v({"timePeriod", "the time period of the step, at least 0"}, timePeriod, 1.0);
@@ -541,6 +543,8 @@ struct kprC_ExplicitOptions {
     v({"scaleFactor", "the factor on the stable time increment"}, scaleFactor, 1.0);
     v({"linearBulkViscosity", "the linear bulk viscosity parameter"}, linearBulkViscosity, 0.06);
     v({"quadraticBulkViscosity", "the quadratic bulk viscosity parameter"}, quadBulkViscosity, 1.2);
+    v({"massScaling", "the mass scalings of the step, in order"}, massScaling,
+      cow_List<kprC_MassScaling>());
   }
 };
 

@@ -808,13 +808,61 @@ void CheckAtLeast(int value, int lowest, const std::string& path, const char* wh
                          std::to_string(value));
 }
 
-// The restart, monitor and print of each analysis step: their counts, and
-// the monitored node set found by its region name.
+// The options of an explicit step; null for a step of the implicit solver.
+kprC_ExplicitOptions* ExplicitOptionsOf(kprC_Step& step) {
+  if (step.DynTypeId() == kprC_ExplicitDynamicsStep::TypeId())
+    return &RecordCast<kprC_ExplicitDynamicsStep>(step);
+  if (step.DynTypeId() == kprC_TempDisplacementDynamicsStep::TypeId())
+    return &RecordCast<kprC_TempDisplacementDynamicsStep>(step);
+  return nullptr;
+}
+
+void CheckNotNegative(double value, const std::string& path, const char* what, LoadErrors& errors) {
+  if (value < 0)
+    errors.Add(path, std::string(what) + " must not be negative");
+}
+
+// A mass scaling repeats by increments or by intervals, the latter only at
+// the start of the step; its region is found by name like any other.
+void DeriveMassScaling(const ddb_Model& model, kprC_MassScaling& scaling, const std::string& path,
+                       LoadErrors& errors) {
+  CheckNotNegative(scaling.targetTimeIncrement, path + "/targetTimeIncrement",
+                   "the target time increment", errors);
+  CheckNotNegative(scaling.factor, path + "/factor", "the factor", errors);
+  if (scaling.frequency != NotGivenInt)
+    CheckAtLeast(scaling.frequency, 1, path + "/every", "the increments between scalings", errors);
+  if (scaling.numberInterval != NotGivenInt) {
+    CheckAtLeast(scaling.numberInterval, 1, path + "/intervals", "the intervals", errors);
+    if (scaling.frequency != NotGivenInt)
+      errors.Add(path, "give at most one of \"every\" and \"intervals\"");
+    else if (scaling.form != kprC_FixedSemiAutomatic)
+      errors.Add(path + "/intervals", "only a fixed mass scaling repeats by intervals");
+  }
+  // What a form does not write is refused, so that no value vanishes unnoticed.
+  const bool bare =
+      scaling.form == kprC_ReinitializeMass || scaling.form == kprC_DisableMassScaling;
+  if (bare && (scaling.targetTimeIncrement != 0 || scaling.factor != 0 || scaling.Repeats()))
+    errors.Add(path, "a mass scaling that reinitializes or disables takes no target, factor or "
+                     "repeats");
+  else if (scaling.form == kprC_VariableSemiAutomatic && scaling.factor != 0)
+    errors.Add(path + "/factor", "only a fixed mass scaling takes a factor");
+  if (scaling.form == kprC_DisableMassScaling && !scaling.regionName.Empty())
+    errors.Add(path + "/region", "disabling mass scaling holds for the whole model");
+  if (!scaling.regionName.Empty())
+    scaling.region = ResolveRegion(model, scaling.regionName.View(), path + "/region", errors);
+}
+
+// The mass scaling, restart, monitor and print of each analysis step: their
+// counts, and the regions found by name.
 void DeriveStepRequests(std::string_view modelPath, ddb_Model& model, LoadErrors& errors) {
   kprC_StepContainer& steps = model.steps_.steps;
   for (int i = 1; i < steps.Size(); ++i) {
     kprC_AnalysisStep& step = RecordCast<kprC_AnalysisStep>(steps.GetStep(i));
     const std::string path = std::string(modelPath) + "/steps/" + std::to_string(i);
+    if (kprC_ExplicitOptions* options = ExplicitOptionsOf(step))
+      for (int k = 0; k < options->massScaling.Size(); ++k)
+        DeriveMassScaling(model, options->massScaling.Get(k),
+                          path + "/massScaling/" + std::to_string(k), errors);
     if (step.restart) {
       CheckAtLeast(step.restart->frequency, 0, path + "/restart/every",
                    "the increments between writes", errors);

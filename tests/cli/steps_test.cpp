@@ -75,6 +75,30 @@ TEST_F(StepCommand, StepFaultsExitOneWithoutDeck) {
        "models/Default Model/steps/1/restart/intervals: the intervals must be 0 or more, found -1"},
       {R"({"name": "S", "procedure": "explicitDynamics", "restart": {"intervals": 0}})",
        "models/Default Model/steps/1/restart/intervals: the intervals must be 1 or more, found 0"},
+      {R"({"name": "S", "procedure": "explicitDynamics",
+           "massScaling": [{"kind": "variable", "factor": 2, "every": 1}]})",
+       "models/Default Model/steps/1/massScaling/0/factor: only a fixed mass scaling takes a "
+       "factor"},
+      {R"({"name": "S", "procedure": "explicitDynamics",
+           "massScaling": [{"kind": "variable", "intervals": 2}]})",
+       "models/Default Model/steps/1/massScaling/0/intervals: only a fixed mass scaling repeats "
+       "by intervals"},
+      {R"({"name": "S", "procedure": "explicitDynamics",
+           "massScaling": [{"kind": "fixed", "intervals": 2, "every": 3}]})",
+       R"(models/Default Model/steps/1/massScaling/0: give at most one of "every" and "intervals")"},
+      {R"({"name": "S", "procedure": "explicitDynamics",
+           "massScaling": [{"kind": "reinitialize", "factor": 2}]})",
+       "models/Default Model/steps/1/massScaling/0: a mass scaling that reinitializes or disables "
+       "takes no target, factor or repeats"},
+      {R"({"name": "S", "procedure": "explicitDynamics",
+           "massScaling": [{"kind": "fixed", "region": "P-1.Gone", "targetTimeIncrement": -1}]})",
+       "models/Default Model/steps/1/massScaling/0/targetTimeIncrement: the target time "
+       "increment must not be negative"},
+      {R"({"name": "S", "procedure": "explicitDynamics",
+           "massScaling": [{"kind": "fixed", "region": "P-1.Gone"}]})",
+       R"(models/Default Model/steps/1/massScaling/0/region: no set "Gone" in instance "P-1")"},
+      {R"({"name": "S", "procedure": "static", "massScaling": []})",
+       R"(models/Default Model/steps/1: unknown field "massScaling" for procedure "static")"},
       // Each solver takes only its own options.
       {R"({"name": "S", "procedure": "explicitDynamics", "restart": {"every": 2}})",
        R"(models/Default Model/steps/1/restart: unknown field "every")"},
