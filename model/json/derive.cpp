@@ -808,6 +808,14 @@ void CheckAtLeast(int value, int lowest, const std::string& path, const char* wh
                          std::to_string(value));
 }
 
+// The solver monitors a single node.
+bool IsOneNode(const rgnC_SetData& set) {
+  int nodes = 0;
+  for (int i = 0; i < set.NumSubsets(); ++i)
+    nodes += set.SubSet(i).indices.Size();
+  return set.SetType() == res_NodeSet && nodes == 1;
+}
+
 // The options of an explicit step; null for a step of the implicit solver.
 kprC_ExplicitOptions* ExplicitOptionsOf(kprC_Step& step) {
   if (step.DynTypeId() == kprC_ExplicitDynamicsStep::TypeId())
@@ -848,8 +856,12 @@ void DeriveMassScaling(const ddb_Model& model, kprC_MassScaling& scaling, const 
     errors.Add(path + "/factor", "only a fixed mass scaling takes a factor");
   if (scaling.form == kprC_DisableMassScaling && !scaling.regionName.Empty())
     errors.Add(path + "/region", "disabling mass scaling holds for the whole model");
-  if (!scaling.regionName.Empty())
-    scaling.region = ResolveRegion(model, scaling.regionName.View(), path + "/region", errors);
+  if (scaling.regionName.Empty())
+    return;
+  scaling.region = ResolveRegion(model, scaling.regionName.View(), path + "/region", errors);
+  if (scaling.region.HasSet() && scaling.region.ConstSet().SetType() != res_ElementSet)
+    errors.Add(path + "/region", QuotedJson(scaling.regionName.View()) +
+                                     " is not an element set; mass scaling acts on elements");
 }
 
 // The mass scaling, restart, monitor and print of each analysis step: their
@@ -886,6 +898,9 @@ void DeriveStepRequests(std::string_view modelPath, ddb_Model& model, LoadErrors
       errors.Add(path + "/monitor/dof",
                  "degree of freedom " + std::to_string(monitor->dof) + " is outside 1 to 30");
     monitor->region = ResolveRegion(model, monitor->node.View(), path + "/monitor/node", errors);
+    if (monitor->region.HasSet() && !IsOneNode(monitor->region.ConstSet()))
+      errors.Add(path + "/monitor/node",
+                 QuotedJson(monitor->node.View()) + " is not a node set of one node");
   }
 }
 

@@ -24,8 +24,8 @@ protected:
     const fs::path model = folder_ / "job.json";
     std::ofstream(model, std::ios::binary)
         << R"({"format": "keydeck-model", "version": 1, "models": {"Default Model": {
-             "parts": {"P": {"nodes": {"labels": [1], "coordinates": [[0, 0, 0]]},
-                            "sets": {"All": {"nodes": [1]}}}},
+             "parts": {"P": {"nodes": {"labels": [1, 2], "coordinates": [[0, 0, 0], [1, 0, 0]]},
+                            "sets": {"All": {"nodes": [1]}, "Two": {"nodes": [1, 2]}}}},
              "assembly": {"instances": {"P-1": {"part": "P"}}},
              "steps": [{"name": "Initial"}, )"
         << steps << "]}}}";
@@ -66,6 +66,12 @@ TEST_F(StepCommand, StepFaultsExitOneWithoutDeck) {
        R"(models/Default Model/steps/1/monitor/node: no set "Tip" in instance "P-1")"},
       {R"({"name": "S", "procedure": "static", "monitor": {"node": "P-1.All", "dof": 31}})",
        "models/Default Model/steps/1/monitor/dof: degree of freedom 31 is outside 1 to 30"},
+      {R"({"name": "S", "procedure": "static", "monitor": {"node": "P-1.Two"}})",
+       R"(models/Default Model/steps/1/monitor/node: "P-1.Two" is not a node set of one node)"},
+      {R"({"name": "S", "procedure": "explicitDynamics",
+           "massScaling": [{"kind": "fixed", "region": "P-1.All"}]})",
+       "models/Default Model/steps/1/massScaling/0/region: \"P-1.All\" is not an element set; "
+       "mass scaling acts on elements"},
       {R"({"name": "S", "procedure": "static", "monitor": {"dof": 1}})",
        R"(models/Default Model/steps/1/monitor: missing field "node")"},
       {R"({"name": "S", "procedure": "static", "monitor": {"node": "P-1.All", "every": 0}})",
