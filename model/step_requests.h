@@ -109,6 +109,21 @@ struct kprC_StandardDiagnosticPrint {
   }
 };
 
+/// The iterative equation solver's controls of an implicit step: back to the
+/// defaults (`reset`), or a tolerance and an iteration limit, 0 for the
+/// solver's own.
+struct kprC_SolverControls {
+  static constexpr const char* Description = "the iterative equation solver's controls";
+  bool reset = false;
+  double tolerance = 0;
+  int maxIterations = 0;
+  template <class V> void Fields(V& v) {
+    v({"reset", "true to set the controls back to the solver's defaults"}, reset, false);
+    v({"tolerance", "the convergence tolerance; 0 for the solver's"}, tolerance, 0.0);
+    v({"maxIterations", "the most iterations; 0 for the solver's"}, maxIterations, 0);
+  }
+};
+
 /// The print of one step, of its solver's class.
 using kprC_DiagnosticPrint =
     std::variant<kprC_ExplicitDiagnosticPrint, kprC_StandardDiagnosticPrint>;

@@ -205,6 +205,8 @@ public:
       std::optional<kprC_StandardMonitor>());
     v({"diagnosticPrint", "changes to what the step prints; none when left out"}, print,
       std::optional<kprC_StandardDiagnosticPrint>());
+    v({"solverControls", "the iterative equation solver's controls; none when left out"},
+      solverControls, std::optional<kprC_SolverControls>());
   }
 
   /// The step's print of either class; empty for none.
@@ -222,6 +224,7 @@ public:
   std::optional<kprC_ExplicitMonitor> explicitMonitor;
   std::optional<kprC_StandardDiagnosticPrint> print;
   std::optional<kprC_ExplicitDiagnosticPrint> explicitPrint;
+  std::optional<kprC_SolverControls> solverControls; ///< implicit steps only
 };
 
 /// What every procedure class shares: its kind, its type id (the procedure

@@ -18,6 +18,7 @@
 #include "oif/oif_RadiationOutput.h"
 #include "oif/oif_Restart.h"
 #include "oif/oif_SetName.h"
+#include "oif/oif_SolverControls.h"
 
 #include <algorithm>
 #include <vector>
@@ -158,6 +159,12 @@ void oif_OutputRequestBuilder::Build() {
         step.loadCases.Empty()
             ? GetChannel(facade.HistoryOutputs(), /*isField=*/false, stepName, procedure)
             : korC_OdbChannel(/*isField=*/false);
+    if (step.solverControls) {
+      // Controls set back to the defaults go without their heading.
+      if (!step.solverControls->reset)
+        AddStepDefinition(stepName, oif_Comment("\nSOLVER CONTROLS\n"));
+      AddStepDefinition(stepName, oif_SolverControls(*step.solverControls));
+    }
     const cow_String monitorSet = MonitorSetName(step);
     if (!field.requests.Empty() || !history.requests.Empty() || step.restart ||
         step.explicitRestart || step.DiagnosticPrint() || !monitorSet.Empty())

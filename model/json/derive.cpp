@@ -884,6 +884,15 @@ void DeriveStepRequests(std::string_view modelPath, ddb_Model& model, LoadErrors
     if (step.explicitRestart)
       CheckAtLeast(step.explicitRestart->numberInterval, 1, path + "/restart/intervals",
                    "the intervals", errors);
+    if (step.solverControls) {
+      const kprC_SolverControls& controls = *step.solverControls;
+      CheckNotNegative(controls.tolerance, path + "/solverControls/tolerance", "the tolerance",
+                       errors);
+      CheckAtLeast(controls.maxIterations, 0, path + "/solverControls/maxIterations",
+                   "the most iterations", errors);
+      if (controls.reset && (controls.tolerance != 0 || controls.maxIterations != 0))
+        errors.Add(path + "/solverControls", "controls set back to the defaults take no values");
+    }
     if (step.print)
       CheckAtLeast(step.print->frequency, 0, path + "/diagnosticPrint/every",
                    "the increments between prints", errors);

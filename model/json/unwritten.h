@@ -38,9 +38,8 @@ inline constexpr PendingFamily PendingFamilies[] = {
     {Holder::Model, "interactionProperties", "interaction properties"},
     {Holder::Model, "constraints", "constraints"},
     {Holder::Model, "connectorSections", "connector sections"},
-    // What an analysis step writes after its output requests.
+    // What an analysis step writes before its output requests.
     {Holder::Step, "controls", "solution controls"},
-    {Holder::Step, "solverControls", "solver controls"},
     {Holder::Assembly, "nodes", "assembly nodes"},
     {Holder::Assembly, "elements", "assembly elements"},
     {Holder::Assembly, "connectors", "connectors"},

@@ -105,6 +105,12 @@ TEST_F(StepCommand, StepFaultsExitOneWithoutDeck) {
        R"(models/Default Model/steps/1/massScaling/0/region: no set "Gone" in instance "P-1")"},
       {R"({"name": "S", "procedure": "static", "massScaling": []})",
        R"(models/Default Model/steps/1: unknown field "massScaling" for procedure "static")"},
+      {R"({"name": "S", "procedure": "static", "solverControls": {"reset": true, "tolerance": 1}})",
+       "models/Default Model/steps/1/solverControls: controls set back to the defaults take no "
+       "values"},
+      {R"({"name": "S", "procedure": "explicitDynamics", "solverControls": {}})",
+       R"(models/Default Model/steps/1: unknown field "solverControls" for procedure )"
+       R"("explicitDynamics")"},
       // Each solver takes only its own options.
       {R"({"name": "S", "procedure": "explicitDynamics", "restart": {"every": 2}})",
        R"(models/Default Model/steps/1/restart: unknown field "every")"},

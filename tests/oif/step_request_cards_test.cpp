@@ -1,6 +1,7 @@
 #include "oif/oif_DiagnosticPrint.h"
 #include "oif/oif_Monitor.h"
 #include "oif/oif_Restart.h"
+#include "oif/oif_SolverControls.h"
 #include "tests/support/deck_text.h"
 
 #include <gtest/gtest.h>
@@ -84,6 +85,22 @@ TEST(StepRequestCards, PrintComparesWithThePreviousOfItsClass) {
   otherSolver.allke = false;
   EXPECT_EQ(DeckText(oif_DiagnosticPrint(now, kprC_DiagnosticPrint(otherSolver))),
             "*Print, frequency=4, residual=NO\n");
+}
+
+// Each step's controls start again from the defaults; a value left at 0 is
+// the solver's own and stays blank.
+TEST(StepRequestCards, SolverControlsStartFromTheDefaults) {
+  kprC_SolverControls controls;
+  controls.reset = true;
+  EXPECT_EQ(DeckText(oif_SolverControls(controls)), "*Solver Controls, reset\n");
+  controls.reset = false;
+  controls.maxIterations = 200;
+  EXPECT_EQ(DeckText(oif_SolverControls(controls)),
+            "*Solver Controls, reset\n*Solver Controls\n, 200\n");
+  controls.tolerance = 1e-6;
+  controls.maxIterations = 0;
+  EXPECT_EQ(DeckText(oif_SolverControls(controls)),
+            "*Solver Controls, reset\n*Solver Controls\n1e-06, \n");
 }
 
 } // namespace
