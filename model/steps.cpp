@@ -48,6 +48,20 @@ bool kprC_AnalysisStep::isExplicit() const {
   return procedure == kprC_ExplicitDynamics || procedure == kprC_TempDisplacementDynamics;
 }
 
+std::optional<kprC_DiagnosticPrint> kprC_AnalysisStep::DiagnosticPrint() const {
+  if (explicitPrint)
+    return kprC_DiagnosticPrint(*explicitPrint);
+  if (print)
+    return kprC_DiagnosticPrint(*print);
+  return std::nullopt;
+}
+
+const kprC_MonitorBase* kprC_AnalysisStep::Monitor() const {
+  if (explicitMonitor)
+    return &*explicitMonitor;
+  return monitor ? &*monitor : nullptr;
+}
+
 const kprC_Step& kprC_StepContainer::ConstGet(const cow_String& name) const {
   const int at = IndexOf(name);
   if (at < 0)

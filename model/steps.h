@@ -5,8 +5,12 @@
 #include "base/cow_List.h"
 #include "base/cow_String.h"
 #include "base/mdl_MapString2ObjCow.h"
+#include "model/mass_scaling.h"
 #include "model/records.h"
 #include "model/regions.h"
+#include "model/step_requests.h"
+
+#include <optional>
 
 /// Which solver a job needs: 0 the implicit solver, 1 the explicit solver,
 /// 3 both (a model whose analysis steps mix the two).
@@ -181,11 +185,46 @@ public:
     kprC_Step::Fields(v);
     v({"loadCases", "the load cases of the step by name"}, loadCases,
       mdl_MapString2ObjCow<klcC_LoadCase>());
+    RequestFields(v);
   }
+
+  /// The restart, monitor and print of the step, of its solver's classes.
+  template <class V> void RequestFields(V& v) {
+    if (isExplicit()) {
+      v({"restart", "the restart data the step writes; none when left out"}, explicitRestart,
+        std::optional<kprC_ExplicitRestart>());
+      v({"monitor", "a degree of freedom the step reports; none when left out"}, explicitMonitor,
+        std::optional<kprC_ExplicitMonitor>());
+      v({"diagnosticPrint", "changes to what the step prints; none when left out"}, explicitPrint,
+        std::optional<kprC_ExplicitDiagnosticPrint>());
+      return;
+    }
+    v({"restart", "the restart data the step writes; none when left out"}, restart,
+      std::optional<kprC_StandardRestart>());
+    v({"monitor", "a degree of freedom the step reports; none when left out"}, monitor,
+      std::optional<kprC_StandardMonitor>());
+    v({"diagnosticPrint", "changes to what the step prints; none when left out"}, print,
+      std::optional<kprC_StandardDiagnosticPrint>());
+    v({"solverControls", "the iterative equation solver's controls; none when left out"},
+      solverControls, std::optional<kprC_SolverControls>());
+  }
+
+  /// The step's print of either class; empty for none.
+  std::optional<kprC_DiagnosticPrint> DiagnosticPrint() const;
+  /// The step's monitor of either class; null for none.
+  const kprC_MonitorBase* Monitor() const;
 
   kprC_ProcedureEnm procedure = kprC_Static;
   cow_String description; ///< the line under "*Step", as it stands; empty for none
   mdl_MapString2ObjCow<klcC_LoadCase> loadCases;
+  // Of each pair only the one of the step's solver is read from the model file.
+  std::optional<kprC_StandardRestart> restart;
+  std::optional<kprC_ExplicitRestart> explicitRestart;
+  std::optional<kprC_StandardMonitor> monitor;
+  std::optional<kprC_ExplicitMonitor> explicitMonitor;
+  std::optional<kprC_StandardDiagnosticPrint> print;
+  std::optional<kprC_ExplicitDiagnosticPrint> explicitPrint;
+  std::optional<kprC_SolverControls> solverControls; ///< implicit steps only
 };
 
 /// What every procedure class shares: its kind, its type id (the procedure
@@ -494,6 +533,7 @@ struct kprC_ExplicitOptions {
   double scaleFactor = 1.0;
   double linearBulkViscosity = 0.06;
   double quadBulkViscosity = 1.2;
+  cow_List<kprC_MassScaling> massScaling;
 
   template <class V> void ExplicitFields(V& v) {
     v({"timePeriod", "the time period of the step, at least 0"}, timePeriod, 1.0);
@@ -506,6 +546,8 @@ struct kprC_ExplicitOptions {
     v({"scaleFactor", "the factor on the stable time increment"}, scaleFactor, 1.0);
     v({"linearBulkViscosity", "the linear bulk viscosity parameter"}, linearBulkViscosity, 0.06);
     v({"quadraticBulkViscosity", "the quadratic bulk viscosity parameter"}, quadBulkViscosity, 1.2);
+    v({"massScaling", "the mass scalings of the step, in order"}, massScaling,
+      cow_List<kprC_MassScaling>());
   }
 };
 

@@ -4,6 +4,7 @@
 #include "model/steps.h"
 #include "oif/oif_Comment.h"
 #include "oif/oif_ContactOutput.h"
+#include "oif/oif_DiagnosticPrint.h"
 #include "oif/oif_ElementOutput.h"
 #include "oif/oif_EnergyOutput.h"
 #include "oif/oif_IncrementationOutput.h"
@@ -11,10 +12,13 @@
 #include "oif/oif_ModalOutput.h"
 #include "oif/oif_Model.h"
 #include "oif/oif_ModelInfo.h"
+#include "oif/oif_Monitor.h"
 #include "oif/oif_NodeOutput.h"
 #include "oif/oif_Output.h"
 #include "oif/oif_RadiationOutput.h"
+#include "oif/oif_Restart.h"
 #include "oif/oif_SetName.h"
+#include "oif/oif_SolverControls.h"
 
 #include <algorithm>
 #include <vector>
@@ -142,6 +146,7 @@ qkw_BuilderComponent* oif_OutputRequestBuilder::Copy() const {
 
 void oif_OutputRequestBuilder::Build() {
   const oif_Model& facade = FacadeOf(*model);
+  std::optional<kprC_DiagnosticPrint> previousPrint;
   kprC_StepContainerIT it(model->Steps());
   it.First();
   for (it.Next(); !it.IsDone(); it.Next()) { // the initial step writes no output
@@ -154,12 +159,48 @@ void oif_OutputRequestBuilder::Build() {
         step.loadCases.Empty()
             ? GetChannel(facade.HistoryOutputs(), /*isField=*/false, stepName, procedure)
             : korC_OdbChannel(/*isField=*/false);
-    if (!field.requests.Empty() || !history.requests.Empty())
+    if (step.solverControls) {
+      // Controls set back to the defaults go without their heading.
+      if (!step.solverControls->reset)
+        AddStepDefinition(stepName, oif_Comment("\nSOLVER CONTROLS\n"));
+      AddStepDefinition(stepName, oif_SolverControls(*step.solverControls));
+    }
+    const cow_String monitorSet = MonitorSetName(step);
+    if (!field.requests.Empty() || !history.requests.Empty() || step.restart ||
+        step.explicitRestart || step.DiagnosticPrint() || !monitorSet.Empty())
       AddStepDefinition(stepName, oif_Comment("\nOUTPUT REQUESTS\n"));
+    AddStepRequests(step, stepName, monitorSet, previousPrint);
     const double timePeriod = ExplicitTimePeriod(step);
     CreateOdbRequests(field, stepName, timePeriod, procedure);
     CreateOdbRequests(history, stepName, timePeriod, procedure);
   }
+}
+
+void oif_OutputRequestBuilder::AddStepRequests(const kprC_AnalysisStep& step,
+                                               const cow_String& stepName,
+                                               const cow_String& monitorSet,
+                                               std::optional<kprC_DiagnosticPrint>& previousPrint) {
+  if (step.restart)
+    AddStepDefinition(stepName, oif_Restart(*step.restart));
+  if (step.explicitRestart)
+    AddStepDefinition(stepName, oif_Restart(*step.explicitRestart));
+  if (std::optional<kprC_DiagnosticPrint> print = step.DiagnosticPrint()) {
+    AddStepDefinition(stepName, oif_DiagnosticPrint(*print, previousPrint));
+    previousPrint = std::move(print);
+  }
+  if (monitorSet.Empty())
+    return;
+  if (step.monitor)
+    AddStepDefinition(stepName, oif_Monitor(*step.monitor, monitorSet));
+  if (step.explicitMonitor)
+    AddStepDefinition(stepName, oif_Monitor(*step.explicitMonitor, monitorSet));
+}
+
+cow_String oif_OutputRequestBuilder::MonitorSetName(const kprC_AnalysisStep& step) const {
+  const kprC_MonitorBase* monitor = step.Monitor();
+  if (monitor == nullptr)
+    return cow_String();
+  return oif_SetName(monitor->region, *modelInfo).UniqueSetName(oif_SetName::AssemblyScope);
 }
 
 // Requests in force in the step count, whether the step changes them or

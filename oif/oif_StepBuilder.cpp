@@ -9,6 +9,7 @@
 #include "oif/oif_CoupledThermalElectric.h"
 #include "oif/oif_DynamicTempDisplacement.h"
 #include "oif/oif_ExplicitDynamics.h"
+#include "oif/oif_FixedMassScaling.h"
 #include "oif/oif_Geostatic.h"
 #include "oif/oif_HeatTransfer.h"
 #include "oif/oif_ImplicitDynamics.h"
@@ -21,6 +22,7 @@
 #include "oif/oif_Static.h"
 #include "oif/oif_StaticRiks.h"
 #include "oif/oif_Step.h"
+#include "oif/oif_VariableMassScaling.h"
 #include "oif/oif_Visco.h"
 
 using namespace keydeck;
@@ -64,6 +66,7 @@ void oif_StepBuilder::AddProcedureCards(const cow_String& stepKey, const kprC_An
   case kprC_ExplicitDynamics:
     AddStepDefinition(stepKey, oif_ExplicitDynamics(step));
     AddStepDefinition(stepKey, oif_BulkViscosity(step));
+    AddMassScaling(stepKey, RecordCast<kprC_ExplicitDynamicsStep>(step));
     return;
   case kprC_Geostatic:
     AddStepDefinition(stepKey, oif_Geostatic(step));
@@ -101,11 +104,24 @@ void oif_StepBuilder::AddProcedureCards(const cow_String& stepKey, const kprC_An
   case kprC_TempDisplacementDynamics:
     AddStepDefinition(stepKey, oif_DynamicTempDisplacement(step));
     AddStepDefinition(stepKey, oif_BulkViscosity(step));
+    AddMassScaling(stepKey, RecordCast<kprC_TempDisplacementDynamicsStep>(step));
     return;
   }
   // The linear-perturbation procedures and subspace dynamics have no cards
   // yet; the loader refuses such a step.
   Raise("Unimplemented procedure print method");
+}
+
+void oif_StepBuilder::AddMassScaling(const cow_String& stepKey,
+                                     const kprC_ExplicitOptions& options) {
+  for (const kprC_MassScaling& entry : options.massScaling) {
+    const cow_String name =
+        oif_SetName(entry.region, *modelInfo).UniqueSetName(oif_SetName::AssemblyScope);
+    if (entry.IsVariable())
+      AddStepDefinition(stepKey, oif_VariableMassScaling(entry, name));
+    else
+      AddStepDefinition(stepKey, oif_FixedMassScaling(entry, name));
+  }
 }
 
 void oif_StepBuilder::AddLoadCaseHeads(const cow_String& stepKey, const kprC_AnalysisStep& step) {

@@ -4,6 +4,7 @@
 
 class cow_String;
 class kprC_AnalysisStep;
+struct kprC_ExplicitOptions;
 class oif_ModelInfo;
 
 /// Files the head of every analysis step: the banner comment, "*Step", the
@@ -19,5 +20,7 @@ public:
 
 private:
   void AddProcedureCards(const cow_String& stepKey, const kprC_AnalysisStep& step);
+  /// One fixed or variable mass-scaling card per entry of an explicit step.
+  void AddMassScaling(const cow_String& stepKey, const kprC_ExplicitOptions& options);
   void AddLoadCaseHeads(const cow_String& stepKey, const kprC_AnalysisStep& step);
 };

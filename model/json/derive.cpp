@@ -1,14 +1,14 @@
 #include "model/json/derive.h"
 
+#include "base/large_lists.h"
 #include "model/json/derive_boundary_conditions.h"
 #include "model/json/derive_constraints.h"
 #include "model/json/derive_fields.h"
 #include "model/json/derive_loads.h"
 #include "model/json/derive_orientations.h"
-#include "model/json/derive_sections.h"
 #include "model/json/derive_output.h"
+#include "model/json/derive_sections.h"
 #include "model/json/json_text.h"
-#include "base/large_lists.h"
 #include "model/json/region_names.h"
 #include "model/propagation.h"
 
@@ -801,6 +801,119 @@ void DeriveStepRegions(std::string_view modelPath, ddb_Model& model, LoadErrors&
   }
 }
 
+// A count of a step's request that the solver takes only from `lowest` up.
+void CheckAtLeast(int value, int lowest, const std::string& path, const char* what,
+                  LoadErrors& errors) {
+  if (value < lowest)
+    errors.Add(path, std::string(what) + " must be " + std::to_string(lowest) + " or more, found " +
+                         std::to_string(value));
+}
+
+// The solver monitors a single node.
+bool IsOneNode(const rgnC_SetData& set) {
+  int nodes = 0;
+  for (int i = 0; i < set.NumSubsets(); ++i)
+    nodes += set.SubSet(i).indices.Size();
+  return set.SetType() == res_NodeSet && nodes == 1;
+}
+
+// The options of an explicit step; null for a step of the implicit solver.
+kprC_ExplicitOptions* ExplicitOptionsOf(kprC_Step& step) {
+  if (step.DynTypeId() == kprC_ExplicitDynamicsStep::TypeId())
+    return &RecordCast<kprC_ExplicitDynamicsStep>(step);
+  if (step.DynTypeId() == kprC_TempDisplacementDynamicsStep::TypeId())
+    return &RecordCast<kprC_TempDisplacementDynamicsStep>(step);
+  return nullptr;
+}
+
+void CheckNotNegative(double value, const std::string& path, const char* what, LoadErrors& errors) {
+  if (value < 0)
+    errors.Add(path, std::string(what) + " must not be negative");
+}
+
+// A mass scaling repeats by increments or by intervals, the latter only at
+// the start of the step; its region is found by name like any other.
+void DeriveMassScaling(const ddb_Model& model, kprC_MassScaling& scaling, const std::string& path,
+                       LoadErrors& errors) {
+  CheckNotNegative(scaling.targetTimeIncrement, path + "/targetTimeIncrement",
+                   "the target time increment", errors);
+  CheckNotNegative(scaling.factor, path + "/factor", "the factor", errors);
+  if (scaling.frequency != NotGivenInt)
+    CheckAtLeast(scaling.frequency, 1, path + "/every", "the increments between scalings", errors);
+  if (scaling.numberInterval != NotGivenInt) {
+    CheckAtLeast(scaling.numberInterval, 1, path + "/intervals", "the intervals", errors);
+    if (scaling.frequency != NotGivenInt)
+      errors.Add(path, "give at most one of \"every\" and \"intervals\"");
+    else if (scaling.form != kprC_FixedSemiAutomatic)
+      errors.Add(path + "/intervals", "only a fixed mass scaling repeats by intervals");
+  }
+  // What a form does not write is refused, so that no value vanishes unnoticed.
+  const bool bare =
+      scaling.form == kprC_ReinitializeMass || scaling.form == kprC_DisableMassScaling;
+  if (bare && (scaling.targetTimeIncrement != 0 || scaling.factor != 0 || scaling.Repeats()))
+    errors.Add(path, "a mass scaling that reinitializes or disables takes no target, factor or "
+                     "repeats");
+  else if (scaling.form == kprC_VariableSemiAutomatic && scaling.factor != 0)
+    errors.Add(path + "/factor", "only a fixed mass scaling takes a factor");
+  if (scaling.form == kprC_DisableMassScaling && !scaling.regionName.Empty())
+    errors.Add(path + "/region", "disabling mass scaling holds for the whole model");
+  if (scaling.regionName.Empty())
+    return;
+  scaling.region = ResolveRegion(model, scaling.regionName.View(), path + "/region", errors);
+  if (scaling.region.HasSet() && scaling.region.ConstSet().SetType() != res_ElementSet)
+    errors.Add(path + "/region", QuotedJson(scaling.regionName.View()) +
+                                     " is not an element set; mass scaling acts on elements");
+}
+
+// The mass scaling, restart, monitor and print of each analysis step: their
+// counts, and the regions found by name.
+void DeriveStepRequests(std::string_view modelPath, ddb_Model& model, LoadErrors& errors) {
+  kprC_StepContainer& steps = model.steps_.steps;
+  for (int i = 1; i < steps.Size(); ++i) {
+    kprC_AnalysisStep& step = RecordCast<kprC_AnalysisStep>(steps.GetStep(i));
+    const std::string path = std::string(modelPath) + "/steps/" + std::to_string(i);
+    if (kprC_ExplicitOptions* options = ExplicitOptionsOf(step))
+      for (int k = 0; k < options->massScaling.Size(); ++k)
+        DeriveMassScaling(model, options->massScaling.Get(k),
+                          path + "/massScaling/" + std::to_string(k), errors);
+    if (step.restart) {
+      CheckAtLeast(step.restart->frequency, 0, path + "/restart/every",
+                   "the increments between writes", errors);
+      CheckAtLeast(step.restart->numberInterval, 0, path + "/restart/intervals", "the intervals",
+                   errors);
+    }
+    if (step.explicitRestart)
+      CheckAtLeast(step.explicitRestart->numberInterval, 1, path + "/restart/intervals",
+                   "the intervals", errors);
+    if (step.solverControls) {
+      const kprC_SolverControls& controls = *step.solverControls;
+      CheckNotNegative(controls.tolerance, path + "/solverControls/tolerance", "the tolerance",
+                       errors);
+      CheckAtLeast(controls.maxIterations, 0, path + "/solverControls/maxIterations",
+                   "the most iterations", errors);
+      if (controls.reset && (controls.tolerance != 0 || controls.maxIterations != 0))
+        errors.Add(path + "/solverControls", "controls set back to the defaults take no values");
+    }
+    if (step.print)
+      CheckAtLeast(step.print->frequency, 0, path + "/diagnosticPrint/every",
+                   "the increments between prints", errors);
+    if (step.monitor)
+      CheckAtLeast(step.monitor->frequency, 1, path + "/monitor/every",
+                   "the increments between reports", errors);
+    // The record's own accessor picks the solver's class; the region is derived here.
+    auto* monitor = const_cast<kprC_MonitorBase*>(step.Monitor());
+    if (monitor == nullptr)
+      continue;
+    if (monitor->dof < 1 || monitor->dof > 30)
+      errors.Add(path + "/monitor/dof",
+                 "degree of freedom " + std::to_string(monitor->dof) + " is outside 1 to 30");
+    monitor->region = ResolveRegion(model, monitor->node.View(), path + "/monitor/node", errors);
+    if (monitor->region.HasSet() && !IsOneNode(monitor->region.ConstSet()))
+      errors.Add(path + "/monitor/node",
+                 QuotedJson(monitor->node.View()) + " is not a node set of one node");
+  }
+}
+
 // The deck joins an instance and its set with a dot and quotes each piece by
 // itself, so a dot inside a name would read as that join: a set "x.y" of the
 // assembly would be set "y" of instance "x". Such names are refused.
@@ -906,6 +1019,7 @@ void DeriveModel(std::string_view modelPath, ddb_Model& model, LoadErrors& error
   DeriveAssemblySets(modelPath, model, partLabels, errors);
   DeriveDatumsAndOrientations(modelPath, model, errors);
   DeriveStepRegions(modelPath, model, errors);
+  DeriveStepRequests(modelPath, model, errors);
   CheckSections(modelPath, model, errors);
   CheckAmplitudes(modelPath, model, errors);
   DeriveStepStates(modelPath, model, errors);

@@ -1,5 +1,6 @@
 #include "model/json/loader.h"
 
+#include "base/large_lists.h"
 #include "model/element_types.h"
 #include "model/json/derive.h"
 #include "model/json/derive_sections.h"
@@ -7,7 +8,6 @@
 #include "model/json/fields.h"
 #include "model/json/json_syntax.h"
 #include "model/json/json_text.h"
-#include "base/large_lists.h"
 #include "model/json/unwritten.h"
 
 #include <simdjson.h>
@@ -736,11 +736,6 @@ void Reader::UnknownKey(std::string_view key, std::vector<std::string_view>& dro
   std::string what = "unknown field " + QuotedJson(key);
   if constexpr (requires { decltype(R::step)::Kind; }) {
     using Step = decltype(R::step);
-    if (std::is_base_of_v<kprC_ExplicitOptions, Step> && key == "massScaling") {
-      PathScope scope(*this, key);
-      Error("mass scaling is not supported yet");
-      return;
-    }
     what += " for procedure " + QuotedJson(FindEnumEntry(Step::Kind)->fileText);
   }
   Error(what + Suggestion<R>(key));

@@ -37,12 +37,8 @@ inline constexpr PendingFamily PendingFamilies[] = {
     {Holder::Model, "interactions", "interactions"},
     {Holder::Model, "interactionProperties", "interaction properties"},
     {Holder::Model, "connectorSections", "connector sections"},
-    // What an analysis step writes after its output requests.
+    // What an analysis step writes before its output requests.
     {Holder::Step, "controls", "solution controls"},
-    {Holder::Step, "solverControls", "solver controls"},
-    {Holder::Step, "restart", "restart requests"},
-    {Holder::Step, "monitor", "monitors"},
-    {Holder::Step, "diagnosticPrint", "diagnostic prints"},
     {Holder::Assembly, "nodes", "assembly nodes"},
     {Holder::Assembly, "elements", "assembly elements"},
     {Holder::Assembly, "connectors", "connectors"},

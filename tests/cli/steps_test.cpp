@@ -24,7 +24,8 @@ protected:
     const fs::path model = folder_ / "job.json";
     std::ofstream(model, std::ios::binary)
         << R"({"format": "keydeck-model", "version": 1, "models": {"Default Model": {
-             "parts": {"P": {"nodes": {"labels": [1], "coordinates": [[0, 0, 0]]}}},
+             "parts": {"P": {"nodes": {"labels": [1, 2], "coordinates": [[0, 0, 0], [1, 0, 0]]},
+                            "sets": {"All": {"nodes": [1]}, "Two": {"nodes": [1, 2]}}}},
              "assembly": {"instances": {"P-1": {"part": "P"}}},
              "steps": [{"name": "Initial"}, )"
         << steps << "]}}}";
@@ -61,6 +62,62 @@ TEST_F(StepCommand, StepFaultsExitOneWithoutDeck) {
        R"(models/Default Model/steps/1/limitNode: no set "Tip" in instance "P-1")"},
       {R"({"name": "S", "procedure": "frequency"})",
        R"(models/Default Model/steps/1/procedure: procedure "frequency" is not supported yet)"},
+      {R"({"name": "S", "procedure": "static", "monitor": {"node": "P-1.Tip"}})",
+       R"(models/Default Model/steps/1/monitor/node: no set "Tip" in instance "P-1")"},
+      {R"({"name": "S", "procedure": "static", "monitor": {"node": "P-1.All", "dof": 31}})",
+       "models/Default Model/steps/1/monitor/dof: degree of freedom 31 is outside 1 to 30"},
+      {R"({"name": "S", "procedure": "static", "monitor": {"node": "P-1.Two"}})",
+       R"(models/Default Model/steps/1/monitor/node: "P-1.Two" is not a node set of one node)"},
+      {R"({"name": "S", "procedure": "explicitDynamics",
+           "massScaling": [{"kind": "fixed", "region": "P-1.All"}]})",
+       "models/Default Model/steps/1/massScaling/0/region: \"P-1.All\" is not an element set; "
+       "mass scaling acts on elements"},
+      {R"({"name": "S", "procedure": "static", "monitor": {"dof": 1}})",
+       R"(models/Default Model/steps/1/monitor: missing field "node")"},
+      {R"({"name": "S", "procedure": "static", "monitor": {"node": "P-1.All", "every": 0}})",
+       "models/Default Model/steps/1/monitor/every: the increments between reports must be 1 "
+       "or more, found 0"},
+      {R"({"name": "S", "procedure": "static", "restart": {"intervals": -1}})",
+       "models/Default Model/steps/1/restart/intervals: the intervals must be 0 or more, found -1"},
+      {R"({"name": "S", "procedure": "explicitDynamics", "restart": {"intervals": 0}})",
+       "models/Default Model/steps/1/restart/intervals: the intervals must be 1 or more, found 0"},
+      {R"({"name": "S", "procedure": "explicitDynamics",
+           "massScaling": [{"kind": "variable", "factor": 2, "every": 1}]})",
+       "models/Default Model/steps/1/massScaling/0/factor: only a fixed mass scaling takes a "
+       "factor"},
+      {R"({"name": "S", "procedure": "explicitDynamics",
+           "massScaling": [{"kind": "variable", "intervals": 2}]})",
+       "models/Default Model/steps/1/massScaling/0/intervals: only a fixed mass scaling repeats "
+       "by intervals"},
+      {R"({"name": "S", "procedure": "explicitDynamics",
+           "massScaling": [{"kind": "fixed", "intervals": 2, "every": 3}]})",
+       R"(models/Default Model/steps/1/massScaling/0: give at most one of "every" and "intervals")"},
+      {R"({"name": "S", "procedure": "explicitDynamics",
+           "massScaling": [{"kind": "reinitialize", "factor": 2}]})",
+       "models/Default Model/steps/1/massScaling/0: a mass scaling that reinitializes or disables "
+       "takes no target, factor or repeats"},
+      {R"({"name": "S", "procedure": "explicitDynamics",
+           "massScaling": [{"kind": "fixed", "region": "P-1.Gone", "targetTimeIncrement": -1}]})",
+       "models/Default Model/steps/1/massScaling/0/targetTimeIncrement: the target time "
+       "increment must not be negative"},
+      {R"({"name": "S", "procedure": "explicitDynamics",
+           "massScaling": [{"kind": "fixed", "region": "P-1.Gone"}]})",
+       R"(models/Default Model/steps/1/massScaling/0/region: no set "Gone" in instance "P-1")"},
+      {R"({"name": "S", "procedure": "static", "massScaling": []})",
+       R"(models/Default Model/steps/1: unknown field "massScaling" for procedure "static")"},
+      {R"({"name": "S", "procedure": "static", "solverControls": {"reset": true, "tolerance": 1}})",
+       "models/Default Model/steps/1/solverControls: controls set back to the defaults take no "
+       "values"},
+      {R"({"name": "S", "procedure": "explicitDynamics", "solverControls": {}})",
+       R"(models/Default Model/steps/1: unknown field "solverControls" for procedure )"
+       R"("explicitDynamics")"},
+      // Each solver takes only its own options.
+      {R"({"name": "S", "procedure": "explicitDynamics", "restart": {"every": 2}})",
+       R"(models/Default Model/steps/1/restart: unknown field "every")"},
+      {R"({"name": "S", "procedure": "explicitDynamics", "diagnosticPrint": {"residual": false}})",
+       R"(models/Default Model/steps/1/diagnosticPrint: unknown field "residual")"},
+      {R"({"name": "S", "procedure": "static", "diagnosticPrint": {"massChange": true}})",
+       R"(models/Default Model/steps/1/diagnosticPrint: unknown field "massChange")"},
   };
   for (const auto& [steps, message] : cases) {
     SCOPED_TRACE(steps);

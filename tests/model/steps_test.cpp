@@ -121,9 +121,11 @@ TEST(Steps, FieldAndValueMessages) {
                      "incrementation": "userFixed"})"),
        {R"(models/M/steps/1: missing field "initialIncrement", which the userFixed )"
         "incrementation needs"}},
-      {"mass scaling",
-       WithSteps(R"({"name": "S", "procedure": "explicitDynamics", "massScaling": []})"),
-       {"models/M/steps/1/massScaling: mass scaling is not supported yet"}},
+      {"mass scaling of an unknown kind",
+       WithSteps(R"({"name": "S", "procedure": "explicitDynamics",
+                     "massScaling": [{"kind": "rolling"}]})"),
+       {R"(models/M/steps/1/massScaling/0/kind: unknown mass scaling "rolling"; expected one of )"
+        "fixed, variable, reinitialize, disable"}},
       {"description of two lines",
        WithSteps(R"({"name": "S", "procedure": "geostatic", "description": "a\nb"})"),
        {"models/M/steps/1/description: a description is one line; it holds a line end"}},
