@@ -1,6 +1,7 @@
 #include "oif/oif_DiagnosticPrint.h"
 
 #include "base/utl_Stream.h"
+#include "oif/oif_Parameters.h"
 
 qkw_Keyword* oif_DiagnosticPrint::Copy() const { return new oif_DiagnosticPrint(*this); }
 
@@ -12,11 +13,10 @@ public:
   explicit PrintWriter(utl_Stream& s) : s_(s) {}
   void Flag(const char* name, bool value, bool baseline) {
     if (value != baseline)
-      s_ << name << (value ? "YES" : "NO");
+      keydeck::WriteParameter(s_, name, keydeck::YesNo(value));
   }
   void Number(const char* name, int value, int baseline) {
-    if (value != baseline)
-      s_ << name << value;
+    keydeck::WriteParameter(s_, name, value, baseline);
   }
 
 private:
@@ -25,20 +25,20 @@ private:
 
 void WritePrint(PrintWriter& w, const kprC_ExplicitDiagnosticPrint& print,
                 const kprC_ExplicitDiagnosticPrint& base) {
-  w.Flag(", allke=", print.allke, base.allke);
-  w.Flag(", critical element=", print.criticalElement, base.criticalElement);
-  w.Flag(", etotal=", print.etotal, base.etotal);
-  w.Flag(", dmass=", print.dmass, base.dmass);
+  w.Flag("allke=", print.allke, base.allke);
+  w.Flag("critical element=", print.criticalElement, base.criticalElement);
+  w.Flag("etotal=", print.etotal, base.etotal);
+  w.Flag("dmass=", print.dmass, base.dmass);
 }
 
 void WritePrint(PrintWriter& w, const kprC_StandardDiagnosticPrint& print,
                 const kprC_StandardDiagnosticPrint& base) {
-  w.Flag(", contact=", print.contact, base.contact);
-  w.Number(", frequency=", print.frequency, base.frequency);
-  w.Flag(", model change=", print.modelChange, base.modelChange);
-  w.Flag(", plasticity=", print.plasticity, base.plasticity);
-  w.Flag(", residual=", print.residual, base.residual);
-  w.Flag(", solve=", print.solve, base.solve);
+  w.Flag("contact=", print.contact, base.contact);
+  w.Number("frequency=", print.frequency, base.frequency);
+  w.Flag("model change=", print.modelChange, base.modelChange);
+  w.Flag("plasticity=", print.plasticity, base.plasticity);
+  w.Flag("residual=", print.residual, base.residual);
+  w.Flag("solve=", print.solve, base.solve);
 }
 
 } // namespace

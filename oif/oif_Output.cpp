@@ -85,5 +85,5 @@ void oif_Output::WriteTimeMarks(utl_Stream& s) const {
     return;
   if (timeMarks_ == korC_DefaultTimeMarks(procedure_) || !kprC_TimeMarksIsAllowed(procedure_))
     return;
-  WriteParameter(s, "time marks=", timeMarks_ ? "YES" : "NO");
+  WriteParameter(s, "time marks=", YesNo(timeMarks_));
 }

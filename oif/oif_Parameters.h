@@ -45,6 +45,9 @@ void WriteParameter(utl_Stream& s, const char* name, const T& value, const U& om
   WriteParameter(s, name, value);
 }
 
+/// The deck's word for a flag's value.
+inline const char* YesNo(bool on) { return on ? "YES" : "NO"; }
+
 /// A parameter of one word, such as ", reset", written when `set`.
 inline void WriteFlag(utl_Stream& s, const char* word, bool set) {
   if (!set)

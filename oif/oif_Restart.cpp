@@ -1,15 +1,15 @@
 #include "oif/oif_Restart.h"
 
 #include "base/utl_Stream.h"
+#include "oif/oif_Parameters.h"
 
 qkw_Keyword* oif_Restart::Copy() const { return new oif_Restart(*this); }
 
 namespace {
 
-const char* YesNo(bool on) { return on ? "YES" : "NO"; }
-
 void WriteRestart(utl_Stream& s, const kprC_ExplicitRestart& restart) {
-  s << "number interval=" << restart.numberInterval << ", time marks=" << YesNo(restart.timeMarks);
+  s << "number interval=" << restart.numberInterval
+    << ", time marks=" << keydeck::YesNo(restart.timeMarks);
 }
 
 // By increments unless evenly spaced intervals are asked for.
@@ -18,7 +18,8 @@ void WriteRestart(utl_Stream& s, const kprC_StandardRestart& restart) {
     s << "frequency=" << restart.frequency;
     return;
   }
-  s << "number interval=" << restart.numberInterval << ", time marks=" << YesNo(restart.timeMarks);
+  s << "number interval=" << restart.numberInterval
+    << ", time marks=" << keydeck::YesNo(restart.timeMarks);
 }
 
 } // namespace

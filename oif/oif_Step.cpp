@@ -66,7 +66,7 @@ void oif_Step::WriteSticky(utl_Stream& s, bool nlgeom) const {
 void oif_Step::WriteDifference(utl_Stream& s, kprC_Step::NlgeomEnm nlgeom) const {
   const bool on = nlgeom != kprC_Step::NlgeomOff;
   if (on != previousNlgeom_)
-    WriteParameter(s, "nlgeom=", on ? "YES" : "NO");
+    WriteParameter(s, "nlgeom=", YesNo(on));
 }
 
 template <class K> void oif_Step::WriteParameters(utl_Stream& s, const K& step) const {

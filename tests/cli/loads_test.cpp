@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <string>
 
 namespace {
@@ -20,26 +19,13 @@ protected:
   // the load case "LC" and the given loads; returns the exit status, with
   // stderr in `err`.
   int Write(const std::string& loads, std::string& err) const {
-    const fs::path model = folder_ / "model.json";
-    std::ofstream(model) << R"({"format": "keydeck-model", "version": 1, "models": {"M": {
-      "parts": {"P": {
-        "nodes": {"labels": [1, 2, 3, 4, 5, 6, 7, 8],
-                  "coordinates": [[0, 0, 0], [1, 0, 0], [1, 1, 0], [0, 1, 0],
-                                  [0, 0, 1], [1, 0, 1], [1, 1, 1], [0, 1, 1]]},
-        "elements": [{"type": "C3D8R", "labels": [1], "connectivity": [[1, 2, 3, 4, 5, 6, 7, 8]]}],
-        "sets": {"Tip": {"nodes": [5, 6]}, "All": {"elements": [1]}},
-        "surfaces": {"Top": {"faces": [{"face": "S2", "elements": [1]}]}}}},
-      "assembly": {"instances": {"P-1": {"part": "P"}}},
+    return WriteBrickModel(R"(,
       "amplitudes": {"Ramp": {"type": "tabular", "data": [0, 0, 1, 1]}},
       "steps": [{"name": "Initial"},
                 {"name": "S1", "procedure": "static",
                  "loadCases": {"LC": {"loads": {"L": {}}}}}],
-      "loads": )" << loads
-                         << "}}}";
-    const keydeck::test::Outcome outcome = keydeck::test::RunKeydeck(
-        {"write", "-q", "-m", "M", "-o", folder_.string(), model.string()}, folder_);
-    err = outcome.err;
-    return outcome.status;
+      "loads": )" + loads,
+                           err);
   }
 };
 

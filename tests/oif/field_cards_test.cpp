@@ -60,21 +60,7 @@ std::string DeckWith(const std::string& fields, const std::string& steps, bool b
 // lines and procedure cards.
 std::string FieldBlocks(const std::string& fields, const std::string& steps = ThreeSteps,
                         bool beams = false) {
-  const std::string deck = DeckWith(fields, steps, beams);
-  std::string blocks;
-  std::size_t at = deck.find("** FIELDS");
-  while (at < deck.size()) {
-    const std::size_t end = deck.find('\n', at);
-    const std::string line = deck.substr(at, end - at + 1);
-    at = end + 1;
-    if (line.starts_with("** STEP: "))
-      blocks += "-- " + line.substr(9);
-    else if (!(line.starts_with("** ---") || line == "** \n" || line.starts_with("*Step") ||
-               line.starts_with("*Static") || line.starts_with("1., 1.") ||
-               line.starts_with("*End Step")))
-      blocks += line;
-  }
-  return blocks;
+  return test::StepBlocks(DeckWith(fields, steps, beams), "** FIELDS");
 }
 
 TEST(FieldBuilder, TemperatureIsAnInitialConditionThenAStepCard) {

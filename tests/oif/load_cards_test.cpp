@@ -47,23 +47,8 @@ odb_Odb ModelWith(const std::string& loads, const std::string& steps) {
 // The load cards of each step: the deck lines from the first step on, less
 // the step banners, "*Step" lines and procedure cards.
 std::string LoadBlocks(const std::string& loads, const std::string& steps = ThreeSteps) {
-  const std::string deck = test::WithoutNoOutputLines(test::DeckOfModel(ModelWith(loads, steps)));
-  std::string blocks;
-  std::size_t at = deck.find("** ---");
-  while (at < deck.size()) {
-    const std::size_t end = deck.find('\n', at);
-    const std::string line = deck.substr(at, end - at + 1);
-    at = end + 1;
-    if (line.starts_with("** STEP: "))
-      blocks += "-- " + line.substr(9);
-    else if (line.starts_with("** ---") || line == "** \n" || line.starts_with("*Step") ||
-             line.starts_with("*Static") || line.starts_with("1., 1.") ||
-             line.starts_with("*End Step"))
-      continue;
-    else
-      blocks += line;
-  }
-  return blocks;
+  return test::StepBlocks(test::WithoutNoOutputLines(test::DeckOfModel(ModelWith(loads, steps))),
+                          "** ---");
 }
 
 // The load of that name in a model with the given loads, after loading.

@@ -74,4 +74,21 @@ std::string FirstDifference(const std::string& expected, const std::string& actu
   }
 }
 
+std::string StepBlocks(const std::string& deck, const std::string& from) {
+  std::string blocks;
+  std::size_t at = deck.find(from);
+  while (at < deck.size()) {
+    const std::size_t end = deck.find('\n', at);
+    const std::string line = deck.substr(at, end - at + 1);
+    at = end + 1;
+    if (line.starts_with("** STEP: "))
+      blocks += "-- " + line.substr(9);
+    else if (!(line.starts_with("** ---") || line == "** \n" || line.starts_with("*Step") ||
+               line.starts_with("*Static") || line.starts_with("1., 1.") ||
+               line.starts_with("*End Step")))
+      blocks += line;
+  }
+  return blocks;
+}
+
 } // namespace keydeck::test

@@ -21,6 +21,12 @@ std::string ReadFile(const std::string& path);
 /// step without output requests writes: for tests of other cards of a step.
 std::string WithoutNoOutputLines(std::string deck);
 
+/// The deck from the first line that begins with `from` on, less the step
+/// banners, "*Step" lines and static procedure cards; each "** STEP: NAME"
+/// banner becomes a line "-- NAME". For tests of the cards a builder files
+/// in each step.
+std::string StepBlocks(const std::string& deck, const std::string& from);
+
 /// The first line where two texts differ, as "line N: expected ... / got ...".
 std::string FirstDifference(const std::string& expected, const std::string& actual);
 

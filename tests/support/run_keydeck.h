@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <filesystem>
+#include <fstream>
 #include <string>
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -94,6 +95,29 @@ protected:
       names.push_back(entry.path().filename().string());
     std::sort(names.begin(), names.end());
     return names;
+  }
+
+  /// Runs "keydeck write -q -m M" on a model "M" of one 8-node brick part "P"
+  /// with the node set "Tip" (nodes 5 and 6), the element set "All" and the
+  /// surface "Top", placed once as "P-1", and then the model members
+  /// `members` (text that begins with ", "); returns the exit status, with
+  /// stderr in `err`.
+  int WriteBrickModel(const std::string& members, std::string& err) const {
+    const std::filesystem::path model = folder_ / "model.json";
+    std::ofstream(model) << R"({"format": "keydeck-model", "version": 1, "models": {"M": {
+      "parts": {"P": {
+        "nodes": {"labels": [1, 2, 3, 4, 5, 6, 7, 8],
+                  "coordinates": [[0, 0, 0], [1, 0, 0], [1, 1, 0], [0, 1, 0],
+                                  [0, 0, 1], [1, 0, 1], [1, 1, 1], [0, 1, 1]]},
+        "elements": [{"type": "C3D8R", "labels": [1], "connectivity": [[1, 2, 3, 4, 5, 6, 7, 8]]}],
+        "sets": {"Tip": {"nodes": [5, 6]}, "All": {"elements": [1]}},
+        "surfaces": {"Top": {"faces": [{"face": "S2", "elements": [1]}]}}}},
+      "assembly": {"instances": {"P-1": {"part": "P"}}})"
+                         << members << "}}}";
+    const Outcome outcome =
+        RunKeydeck({"write", "-q", "-m", "M", "-o", folder_.string(), model.string()}, folder_);
+    err = outcome.err;
+    return outcome.status;
   }
 
   std::filesystem::path folder_;
